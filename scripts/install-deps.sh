@@ -1,0 +1,25 @@
+#!/bin/sh
+# Installs the Debian packages that building, running and testing need, and
+# nothing when they are all there already. Safe to run again and again.
+set -e
+packages="build-essential cmake ninja-build pkg-config
+  qt6-base-dev qt6-base-dev-tools libgl-dev
+  libxcb1-dev libxcb-randr0-dev
+  libgtest-dev libgmock-dev libbenchmark-dev
+  xvfb xauth x11-xserver-utils xserver-xorg-core xserver-xorg-video-dummy xdotool
+  python3"
+missing=""
+for p in $packages; do
+  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+    missing="$missing $p"
+  fi
+done
+if [ -n "$missing" ]; then
+  echo "Installing:$missing"
+  if [ "$(id -u)" -eq 0 ]; then sudo=""; else sudo="sudo"; fi
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $missing
+fi
+if [ -f package.json ] && [ ! -d node_modules ]; then
+  npm ci --no-audit --no-fund
+fi
