@@ -6,12 +6,17 @@
 
 SaveManager::SaveManager()
 {
+    m_store = new QSettings(QCoreApplication::organizationName(), store_application_name());
+    if (!m_store->isWritable())
+        std::cout << "Settings not writable" << std::endl;
+}
+
+QString SaveManager::store_application_name()
+{
     QString application = QCoreApplication::applicationName();
     if (getuid() == 0)
         application += "-root";
-    m_store = new QSettings(QCoreApplication::organizationName(), application);
-    if (!m_store->isWritable())
-        std::cout << "Settings not writable" << std::endl;
+    return application;
 }
 
 SaveManager::~SaveManager()

@@ -24,6 +24,11 @@ public:
 
     QSettings* store() { return m_store; }
 
+    // The application part of the store's name: root gets a store of its own
+    // so that it never rewrites the user's file. Every QSettings of the
+    // program that reaches the store is built with this.
+    static QString store_application_name();
+
 private:
     QSettings* m_store;
 };
