@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QApplication>
+#include <QLocalServer>
+#include <QLocalSocket>
+
+class MainWindow;
+class SaveManager;
+class SystemKeyboard;
+class SolarPosition;
+class ClockPosition;
+class Updater;
+class Utils;
+
+// The application object. It keeps one instance running per user: a second
+// launch stores its words in the settings store, knocks on the running
+// instance's local socket and ends. It also owns the process-wide managers.
+class SingleApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    SingleApplication(int& argc, char** argv);
+    ~SingleApplication() override;
+
+    void setMainWindow(MainWindow* window) { main_window = window; }
+    MainWindow* getMainWindow() { return main_window; }
+
+    void create_managers();
+    void delete_managers();
+
+    // The launch's words as they are handed over: the program path and empty
+    // words dropped, the first word rewritten from its link form.
+    static QStringList rewrite_arguments(QStringList arguments);
+    // Where the instance's socket and lock live: per user.
+    static QString instance_name();
+    static QString runtime_directory();
+
+signals:
+    void show_up();
+    void process_arguments();
+
+public slots:
+    void slotConnectionEstablished();
+
+private:
+    void run_guard(const QString& name);
+
+    SaveManager* save_manager = nullptr;
+    SystemKeyboard* system_keyboard = nullptr;
+    SolarPosition* solar_position = nullptr;
+    ClockPosition* clock_position = nullptr;
+    Updater* updater = nullptr;
+    Utils* utils = nullptr;
+    MainWindow* main_window = nullptr;
+    QLocalSocket* socket = nullptr;
+    QLocalServer* server = nullptr;
+};
+
+void show_already_running_warning();
+void noMessageOutput(QtMsgType, const QMessageLogContext&, const QString&);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QObject>
+
+#include "Singleton.h"
+
+// Process-wide helpers shared by the windows.
+class Utils : public QObject, public Singleton<Utils>
+{
+    Q_OBJECT
+};

@@ -1,0 +1,204 @@
+"""Helpers for tests that start the real ovra binary on the test X server."""
+import os
+import shutil
+import signal
+import struct
+import subprocess
+import tempfile
+import time
+import unittest
+
+BINARY = os.environ.get("OVRA_BINARY", "")
+RAMPS = os.environ.get("OVRA_RAMPS", "")
+TOOLS_DIR = os.path.dirname(RAMPS) if RAMPS else ""
+
+
+def f32(value):
+    """Rounds a Python float to the nearest 32-bit float."""
+    return struct.unpack("f", struct.pack("f", value))[0]
+
+
+def wait_for(predicate, timeout=10.0, interval=0.05):
+    deadline = time.monotonic() + timeout
+    while time.monotonic() < deadline:
+        result = predicate()
+        if result:
+            return result
+        time.sleep(interval)
+    return predicate()
+
+
+def ramps_tool(*args, display=None, stdin=None):
+    env = dict(os.environ)
+    if display:
+        env["DISPLAY"] = display
+    return subprocess.run([RAMPS, *args], env=env, input=stdin, capture_output=True,
+                          text=True, timeout=20)
+
+
+def read_ramps(crtc=0, display=None):
+    """Returns (red, green, blue) lists of the CRTC's ramps."""
+    out = ramps_tool("get", str(crtc), display=display)
+    if out.returncode != 0:
+        raise RuntimeError("ovra-ramps get failed: " + out.stderr)
+    lines = out.stdout.strip().splitlines()
+    size = int(lines[0])
+    channels = [list(map(int, line.split())) for line in lines[1:4]]
+    assert all(len(c) == size for c in channels), "short ramp"
+    return tuple(channels)
+
+
+def crtc_count(display=None):
+    return int(ramps_tool("count", display=display).stdout.strip())
+
+
+def make_linear(display=None):
+    out = ramps_tool("linear", display=display)
+    if out.returncode != 0:
+        raise RuntimeError("ovra-ramps linear failed: " + out.stderr)
+
+
+# The white points of the default table for the temperatures the tests use,
+# copied from the published table (rows of 100 K: red, green, blue).
+OVRA_ROWS = {
+    2700: (1.0, .67645822, .34786758),
+    3400: (1.0, .76888303, .52427322),
+    3500: (1.0, .77987699, .54642268),
+    6500: (1.0, 1.0, 1.0),
+}
+
+
+def expected_channel(saved, factor, brightness):
+    """The tint of one channel as the ramp code must compute it: the saved
+    entry scaled by brightness and white point in double precision, held as
+    a float, truncated after a float multiplication by 65535."""
+    result = []
+    for entry in saved:
+        v = entry / 65535.0 * brightness * factor
+        p = f32(v)
+        if p > 1.0:
+            result.append(65535)
+        else:
+            result.append(int(f32(p * f32(65535.0))))
+    return result
+
+
+def expected_tint(saved, temperature, brightness_percent):
+    w = OVRA_ROWS[temperature]
+    b = f32(brightness_percent / 100.0)
+    return tuple(expected_channel(saved[c], w[c], b) for c in range(3))
+
+
+def ramps_close(actual, expected, tolerance=1):
+    for a_channel, e_channel in zip(actual, expected):
+        if len(a_channel) != len(e_channel):
+            return False
+        for a, e in zip(a_channel, e_channel):
+            if abs(a - e) > tolerance:
+                return False
+    return True
+
+
+class OvraProcess:
+    """One started ovra, with its output collected in files."""
+
+    def __init__(self, home, args=(), env=None, cwd=None):
+        self.home = home
+        self.stdout_path = os.path.join(home, "stdout-%d.txt" % time.monotonic_ns())
+        self.stderr_path = self.stdout_path.replace("stdout", "stderr")
+        self._out = open(self.stdout_path, "w")
+        self._err = open(self.stderr_path, "w")
+        self.proc = subprocess.Popen([BINARY, *args], env=env, cwd=cwd or home,
+                                     stdout=self._out, stderr=self._err)
+
+    @property
+    def pid(self):
+        return self.proc.pid
+
+    def stdout(self):
+        with open(self.stdout_path) as f:
+            return f.read()
+
+    def stderr(self):
+        with open(self.stderr_path) as f:
+            return f.read()
+
+    def send(self, sig):
+        self.proc.send_signal(sig)
+
+    def wait(self, timeout=10):
+        try:
+            return self.proc.wait(timeout=timeout)
+        finally:
+            self._out.close()
+            self._err.close()
+
+    def alive(self):
+        return self.proc.poll() is None
+
+    def stop(self):
+        if self.alive():
+            self.proc.send_signal(signal.SIGTERM)
+            try:
+                self.proc.wait(timeout=5)
+            except subprocess.TimeoutExpired:
+                self.proc.kill()
+                self.proc.wait()
+        self._out.close()
+        self._err.close()
+
+
+class OvraTestCase(unittest.TestCase):
+    """Gives each test its own HOME, XDG directories and a linear display,
+    and makes sure no started ovra outlives the test."""
+
+    def setUp(self):
+        if not BINARY or not os.environ.get("DISPLAY"):
+            self.skipTest("needs the ovra binary and an X server (run through make test)")
+        self.base = tempfile.mkdtemp(prefix="ovra-it-")
+        self.home = os.path.join(self.base, "home")
+        self.config = os.path.join(self.base, "config")
+        self.runtime = os.path.join(self.base, "runtime")
+        for d in (self.home, self.config, self.runtime):
+            os.makedirs(d)
+        os.chmod(self.runtime, 0o700)
+        self.env = dict(os.environ, HOME=self.home, XDG_CONFIG_HOME=self.config,
+                        XDG_RUNTIME_DIR=self.runtime)
+        self.processes = []
+        make_linear()
+        self.original = read_ramps()
+
+    def tearDown(self):
+        for p in self.processes:
+            p.stop()
+        make_linear()
+        shutil.rmtree(self.base, ignore_errors=True)
+
+    def config_file(self):
+        name = "Ovra-root.conf" if os.getuid() == 0 else "Ovra.conf"
+        return os.path.join(self.config, "Morvenik", name)
+
+    def write_config(self, values):
+        path = self.config_file()
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w") as f:
+            f.write("[General]\n")
+            for key, value in values.items():
+                f.write("%s=%s\n" % (key, value))
+
+    def start(self, *args, env=None, cwd=None):
+        p = OvraProcess(self.home, args, env or self.env, cwd)
+        self.processes.append(p)
+        return p
+
+    def wait_for_ramps(self, expected, timeout=10, crtc=0, display=None):
+        got = wait_for(lambda: ramps_close(read_ramps(crtc, display), expected), timeout)
+        if not got:
+            actual = read_ramps(crtc, display)
+            self.fail("ramps never reached the expected values; first entries: actual %s expected %s"
+                      % ([c[:6] for c in actual], [c[:6] for c in expected]))
+
+    def wait_for_tint(self, timeout=10):
+        """Waits until the display differs from the original ramps."""
+        self.assertTrue(wait_for(lambda: read_ramps() != self.original, timeout),
+                        "the display was never tinted")

@@ -1,0 +1,124 @@
+"""The program as a user starts it: it tints, hands launches over, and gives
+the display back on every way out."""
+import os
+import signal
+import socket
+import subprocess
+import time
+
+from harness import (OvraTestCase, expected_tint, read_ramps, wait_for, BINARY)
+
+FIXED_TEMPERATURE = 3400
+FIXED_BRIGHTNESS = 80
+
+
+class TintAndRestore(OvraTestCase):
+
+    def tinted(self):
+        return expected_tint(self.original, FIXED_TEMPERATURE, FIXED_BRIGHTNESS)
+
+    def test_start_tints_the_crtc_with_the_table_values(self):
+        self.start()
+        self.wait_for_ramps(self.tinted())
+
+    def test_each_ending_signal_gives_the_ramps_back(self):
+        for sig in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(signal=sig.name):
+                p = self.start()
+                self.wait_for_ramps(self.tinted())
+                p.send(sig)
+                self.assertEqual(p.wait(timeout=5), 0)
+                self.assertEqual(read_ramps(), self.original)
+
+    def test_closing_the_window_without_tray_quits_and_restores(self):
+        p = self.start()
+        self.wait_for_ramps(self.tinted())
+        window = wait_for(lambda: subprocess.run(
+            ["xdotool", "search", "--pid", str(p.pid), "--name", "^Ovra$"],
+            capture_output=True, text=True).stdout.split(), timeout=10)
+        self.assertTrue(window, "the settings window was never created")
+        closer = os.path.join(os.path.dirname(os.environ["OVRA_RAMPS"]), "ovra-close-window")
+        subprocess.run([closer, window[0]], check=True, timeout=10)
+        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertIn("Tray icon is not visible", p.stdout())
+        self.assertEqual(read_ramps(), self.original)
+
+    def test_a_killed_run_is_repaired_by_the_next_start(self):
+        p = self.start()
+        self.wait_for_ramps(self.tinted())
+        p.send(signal.SIGKILL)
+        p.wait()
+        self.assertNotEqual(read_ramps(), self.original, "kill -9 cannot restore anything")
+        # The next start must tint from the original ramps, not from the
+        # tinted ones it finds, and give the original back at the end.
+        q = self.start()
+        self.wait_for_ramps(self.tinted())
+        time.sleep(1.5)
+        self.wait_for_ramps(self.tinted())
+        q.send(signal.SIGTERM)
+        self.assertEqual(q.wait(timeout=5), 0)
+        self.assertEqual(read_ramps(), self.original)
+
+
+class SingleInstance(OvraTestCase):
+
+    def launch(self, *args):
+        return subprocess.run([BINARY, *args], env=self.env, cwd=self.home,
+                              capture_output=True, text=True, timeout=20)
+
+    def test_second_launch_hands_its_words_over(self):
+        first = self.start()
+        self.wait_for_tint()
+        second = self.launch("pause")
+        self.assertEqual(second.returncode, 0)
+        self.assertTrue(wait_for(lambda: "pause\n" in first.stdout(), timeout=5),
+                        "first instance did not print the words: " + first.stdout())
+        self.assertTrue(first.alive())
+
+    def test_link_form_of_the_first_word_is_rewritten(self):
+        first = self.start()
+        self.wait_for_tint()
+        second = self.launch("ovra:some%20words-here")
+        self.assertEqual(second.returncode, 0)
+        self.assertIn("some words here: first_argument", second.stdout)
+        self.assertTrue(wait_for(lambda: "some words here\n" in first.stdout(), timeout=5))
+
+    def test_stale_socket_does_not_stop_a_new_instance(self):
+        # A socket file whose owner died: nobody listens behind it.
+        path = os.path.join(self.runtime, "MorvenikOvra")
+        dead = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
+        dead.bind(path)
+        dead.close()
+        self.assertTrue(os.path.exists(path))
+        p = self.start()
+        self.wait_for_tint()
+        self.assertTrue(p.alive())
+        second = self.launch("hello")
+        self.assertEqual(second.returncode, 0)
+        self.assertTrue(wait_for(lambda: "hello\n" in p.stdout(), timeout=5))
+
+    def test_ten_launches_at_once_leave_one_instance(self):
+        procs = [self.start() for _ in range(10)]
+        # Everyone but the first ends by itself with status 0.
+        wait_for(lambda: sum(p.alive() for p in procs) <= 1, timeout=30)
+        time.sleep(1.0)
+        alive = [p for p in procs if p.alive()]
+        self.assertEqual(len(alive), 1, "instances still running: %d" % len(alive))
+        for p in procs:
+            if p is not alive[0]:
+                self.assertEqual(p.proc.returncode, 0)
+
+
+class BadDisplay(OvraTestCase):
+
+    def test_unreachable_display_fails_cleanly_and_writes_nothing(self):
+        for display in (":987", ""):
+            with self.subTest(display=display):
+                env = dict(self.env, DISPLAY=display)
+                result = subprocess.run([BINARY], env=env, capture_output=True, text=True,
+                                        timeout=20)
+                self.assertNotEqual(result.returncode, 0)
+                lines = [l for l in result.stderr.splitlines() if l.strip()]
+                self.assertEqual(len(lines), 1, result.stderr)
+                self.assertIn("display", lines[0])
+                self.assertFalse(os.path.exists(self.config_file()))
