@@ -1,0 +1,8 @@
+#include "color/GammaFactory.h"
+
+#include "color/LinuxGamma.h"
+
+IGamma* GammaFactory::get_gamma()
+{
+    return new LinuxGamma();
+}

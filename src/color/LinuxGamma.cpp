@@ -1,0 +1,343 @@
+#include "color/LinuxGamma.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "color/ColorRamp.h"
+#include "color/CrtcRampBuilder.h"
+#include "color/RampCrashFile.h"
+
+namespace {
+
+void report_error(const char* request, const xcb_generic_error_t* error)
+{
+    fprintf(stderr, "`%s' returned error %d\n", request, error ? static_cast<int>(error->error_code) : -1);
+}
+
+} // namespace
+
+LinuxGamma::LinuxGamma(const char* display_name)
+    : state(new randr_state_t)
+    , display(display_name ? display_name : "")
+    , display_given(display_name != nullptr)
+{
+    init();
+}
+
+LinuxGamma::~LinuxGamma()
+{
+    if (owns_crash_file)
+        RampCrashFile(QString::fromStdString(crash_path)).remove();
+    free_crtcs();
+    disconnect();
+    delete state;
+}
+
+void LinuxGamma::free_crtcs()
+{
+    if (state->crtcs) {
+        for (unsigned int i = 0; i < state->crtc_count; ++i)
+            free(state->crtcs[i].saved_ramps);
+        free(state->crtcs);
+    }
+    state->crtcs = nullptr;
+    state->crtc_count = 0;
+}
+
+void LinuxGamma::disconnect()
+{
+    if (state->conn)
+        xcb_disconnect(state->conn);
+    state->conn = nullptr;
+    state->screen = nullptr;
+}
+
+void LinuxGamma::init()
+{
+    // A second init replaces the first connection; the CRTCs it read belong
+    // to that connection and go with it.
+    free_crtcs();
+    disconnect();
+    state->screen_num = -1;
+    state->crtc_num = -1;
+    state->preserve = preserve_gamma ? 1 : 0;
+
+    state->conn = xcb_connect(display_given ? display.c_str() : nullptr, &state->preferred_screen);
+
+    xcb_generic_error_t* error = nullptr;
+    xcb_randr_query_version_cookie_t cookie = xcb_randr_query_version(state->conn, 1, 3);
+    xcb_randr_query_version_reply_t* reply = xcb_randr_query_version_reply(state->conn, cookie, &error);
+    if (error || !reply) {
+        report_error("RANDR Query Version", error);
+        free(error);
+        free(reply);
+        disconnect();
+        return;
+    }
+    if (reply->major_version != 1 || reply->minor_version < 3) {
+        fprintf(stderr, "Unsupported RANDR version (%u.%u)\n", reply->major_version, reply->minor_version);
+        free(reply);
+        disconnect();
+        return;
+    }
+    free(reply);
+}
+
+bool LinuxGamma::is_connected() const
+{
+    return state->conn != nullptr && xcb_connection_has_error(state->conn) == 0;
+}
+
+int LinuxGamma::start()
+{
+    // init has already said why there is no connection.
+    if (!state->conn)
+        return -1;
+    free_crtcs();
+
+    const int screen_num = state->screen_num < 0 ? state->preferred_screen : state->screen_num;
+    xcb_screen_iterator_t iter = xcb_setup_roots_iterator(xcb_get_setup(state->conn));
+    state->screen = nullptr;
+    for (int i = 0; iter.rem > 0; ++i) {
+        if (i == screen_num) {
+            state->screen = iter.data;
+            break;
+        }
+        xcb_screen_next(&iter);
+    }
+    if (!state->screen) {
+        fprintf(stderr, "Screen %i could not be found.\n", screen_num);
+        return -1;
+    }
+
+    xcb_generic_error_t* error = nullptr;
+    xcb_randr_get_screen_resources_current_reply_t* resources = xcb_randr_get_screen_resources_current_reply(
+        state->conn, xcb_randr_get_screen_resources_current(state->conn, state->screen->root), &error);
+    if (error || !resources) {
+        report_error("RANDR Get Screen Resources Current", error);
+        free(error);
+        free(resources);
+        return -1;
+    }
+
+    const unsigned int count = static_cast<unsigned int>(resources->num_crtcs);
+    state->crtcs = static_cast<randr_crtc_state_t*>(calloc(count ? count : 1, sizeof(randr_crtc_state_t)));
+    if (!state->crtcs) {
+        perror("malloc");
+        state->crtc_count = 0;
+        free(resources);
+        return -1;
+    }
+    state->crtc_count = count;
+    const xcb_randr_crtc_t* ids = xcb_randr_get_screen_resources_current_crtcs(resources);
+    for (unsigned int i = 0; i < count; ++i)
+        state->crtcs[i].crtc = ids[i];
+    free(resources);
+
+    for (unsigned int i = 0; i < count; ++i) {
+        randr_crtc_state_t& crtc = state->crtcs[i];
+        xcb_randr_get_crtc_gamma_size_reply_t* size_reply = xcb_randr_get_crtc_gamma_size_reply(
+            state->conn, xcb_randr_get_crtc_gamma_size(state->conn, crtc.crtc), &error);
+        if (error || !size_reply) {
+            report_error("RANDR Get CRTC Gamma Size", error);
+            free(error);
+            free(size_reply);
+            return -1;
+        }
+        crtc.ramp_size = size_reply->size;
+        free(size_reply);
+        if (crtc.ramp_size == 0) {
+            fprintf(stderr, "Gamma ramp size too small: %i\n", static_cast<int>(crtc.ramp_size));
+            return -1;
+        }
+
+        xcb_randr_get_crtc_gamma_reply_t* gamma_reply = xcb_randr_get_crtc_gamma_reply(
+            state->conn, xcb_randr_get_crtc_gamma(state->conn, crtc.crtc), &error);
+        if (error || !gamma_reply) {
+            report_error("RANDR Get CRTC Gamma", error);
+            free(error);
+            free(gamma_reply);
+            return -1;
+        }
+        crtc.saved_ramps = static_cast<uint16_t*>(malloc(3 * crtc.ramp_size * sizeof(uint16_t)));
+        if (!crtc.saved_ramps) {
+            perror("malloc");
+            free(gamma_reply);
+            return -1;
+        }
+        const size_t bytes = crtc.ramp_size * sizeof(uint16_t);
+        memcpy(crtc.saved_ramps, xcb_randr_get_crtc_gamma_red(gamma_reply), bytes);
+        memcpy(crtc.saved_ramps + crtc.ramp_size, xcb_randr_get_crtc_gamma_green(gamma_reply), bytes);
+        memcpy(crtc.saved_ramps + 2 * crtc.ramp_size, xcb_randr_get_crtc_gamma_blue(gamma_reply), bytes);
+        free(gamma_reply);
+    }
+
+    recover_after_crash();
+    keep_ramps_for_recovery();
+    return 0;
+}
+
+// A file for this display with the same CRTCs means an earlier run died with
+// its tint on the screen: what the server holds now is that tint, and the
+// file holds what was there before it.
+void LinuxGamma::recover_after_crash()
+{
+    const char* name = display_given ? display.c_str() : getenv("DISPLAY");
+    RampCrashFile file(RampCrashFile::path_for_display(name));
+    crash_path = file.path().toStdString();
+
+    std::vector<KeptCrtcRamps> kept;
+    QString reason;
+    switch (file.load(&kept, &reason)) {
+    case RampCrashFile::LoadResult::Missing:
+        return;
+    case RampCrashFile::LoadResult::Invalid:
+        fprintf(stderr, "Ignoring saved ramps in %s: %s\n", crash_path.c_str(), reason.toLocal8Bit().constData());
+        return;
+    case RampCrashFile::LoadResult::Loaded:
+        break;
+    }
+    bool same = kept.size() == state->crtc_count;
+    for (unsigned int i = 0; same && i < state->crtc_count; ++i)
+        same = kept[i].crtc == state->crtcs[i].crtc && kept[i].ramp_size == state->crtcs[i].ramp_size;
+    if (!same) {
+        fprintf(stderr, "Ignoring saved ramps in %s: they belong to other CRTCs\n", crash_path.c_str());
+        return;
+    }
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        randr_crtc_state_t& crtc = state->crtcs[i];
+        memcpy(crtc.saved_ramps, kept[i].ramps.data(), 3 * crtc.ramp_size * sizeof(uint16_t));
+        if (write_crtc(crtc.crtc, crtc.ramp_size, crtc.saved_ramps) != 0)
+            fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
+    }
+    fprintf(stderr, "Restored the ramps left tinted by an earlier run\n");
+}
+
+void LinuxGamma::keep_ramps_for_recovery()
+{
+    std::vector<KeptCrtcRamps> kept(state->crtc_count);
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        kept[i].crtc = state->crtcs[i].crtc;
+        kept[i].ramp_size = state->crtcs[i].ramp_size;
+        kept[i].ramps.assign(state->crtcs[i].saved_ramps, state->crtcs[i].saved_ramps + 3 * state->crtcs[i].ramp_size);
+    }
+    if (RampCrashFile(QString::fromStdString(crash_path)).write(kept)) {
+        owns_crash_file = true;
+    } else {
+        fprintf(stderr, "Unable to keep the original ramps in %s\n", crash_path.c_str());
+    }
+}
+
+int LinuxGamma::get_screen_count()
+{
+    return static_cast<int>(state->crtc_count);
+}
+
+int LinuxGamma::write_crtc(unsigned int crtc, unsigned int size, const uint16_t* block)
+{
+    xcb_void_cookie_t cookie = xcb_randr_set_crtc_gamma_checked(state->conn, crtc, static_cast<uint16_t>(size),
+                                                                 block, block + size, block + 2 * size);
+    xcb_generic_error_t* error = xcb_request_check(state->conn, cookie);
+    if (error || xcb_connection_has_error(state->conn)) {
+        report_error("RANDR Set CRTC Gamma", error);
+        free(error);
+        return -1;
+    }
+    return 0;
+}
+
+int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> ignored, int monitor)
+{
+    if (state->crtc_num >= 0)
+        return set_temperature_for_display(state, state->crtc_num, settings);
+    if (state->crtc_count == 0)
+        return 0;
+
+    int result = 0;
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        const int number = static_cast<int>(i) + 1;
+        bool is_ignored = false;
+        for (int entry : ignored) {
+            if (entry == number) {
+                is_ignored = true;
+                restore_monitor_colors(static_cast<int>(i));
+            }
+        }
+        if (!is_ignored)
+            result = set_temperature_for_display(state, static_cast<int>(i), settings);
+    }
+    return result;
+}
+
+int LinuxGamma::set_temperature_for_display(randr_state_t* state, int crtc_index, const ColorSettings* settings)
+{
+    if (!CrtcRampBuilder::reaches_display(settings))
+        return -1;
+
+    if (crtc_index < 0 || static_cast<unsigned int>(crtc_index) >= state->crtc_count) {
+        fprintf(stderr, "CRTC %d does not exist. ", state->crtc_num);
+        if (state->crtc_count < 2)
+            fprintf(stderr, "Only CRTC 0 exists.\n");
+        else
+            fprintf(stderr, "Valid CRTCs are [0-%d].\n", static_cast<int>(state->crtc_count) - 1);
+        return -1;
+    }
+
+    const randr_crtc_state_t& crtc = state->crtcs[crtc_index];
+    uint16_t* block = static_cast<uint16_t*>(malloc(3 * crtc.ramp_size * sizeof(uint16_t)));
+    if (!block) {
+        perror("malloc");
+        return -1;
+    }
+    CrtcRampBuilder::build(color_ramp, settings, state->preserve != 0, use_inverted_gamma, crtc.saved_ramps,
+                           crtc.ramp_size, block);
+    const int result = write_crtc(crtc.crtc, crtc.ramp_size, block);
+    free(block);
+    return result;
+}
+
+int LinuxGamma::restore_monitor_colors(int crtc_index)
+{
+    if (crtc_index < 0 || static_cast<unsigned int>(crtc_index) >= state->crtc_count)
+        return -1;
+    ColorSettings neutral;
+    neutral.temperature = 6500;
+    neutral.gamma[0] = neutral.gamma[1] = neutral.gamma[2] = 1.0f;
+    neutral.brightness = 1.0f;
+    return set_temperature_for_display(state, crtc_index, &neutral);
+}
+
+int LinuxGamma::restore()
+{
+    int result = 0;
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        const randr_crtc_state_t& crtc = state->crtcs[i];
+        if (!crtc.saved_ramps)
+            continue;
+        if (write_crtc(crtc.crtc, crtc.ramp_size, crtc.saved_ramps) != 0) {
+            fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
+            result = -1;
+        }
+    }
+    return result;
+}
+
+int LinuxGamma::reset()
+{
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        randr_crtc_state_t& crtc = state->crtcs[i];
+        if (crtc.ramp_size == 0)
+            continue;
+        if (!crtc.saved_ramps) {
+            crtc.saved_ramps = static_cast<uint16_t*>(malloc(3 * crtc.ramp_size * sizeof(uint16_t)));
+            if (!crtc.saved_ramps) {
+                perror("malloc");
+                return -1;
+            }
+        }
+        for (int c = 0; c < 3; ++c)
+            CrtcRampBuilder::fill_linear(crtc.saved_ramps + c * crtc.ramp_size, crtc.ramp_size);
+    }
+    return 0;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+// The ramps one CRTC held when the backend started.
+struct KeptCrtcRamps
+{
+    unsigned int crtc = 0;
+    unsigned int ramp_size = 0;
+    std::vector<uint16_t> ramps; // red, green, blue; ramp_size entries each
+};
+
+// A small file that keeps the ramps found at start while the program runs,
+// so that a run that died without giving them back can be repaired by the
+// next one. One file per display, written atomically.
+class RampCrashFile
+{
+public:
+    enum class LoadResult { Missing, Loaded, Invalid };
+
+    explicit RampCrashFile(QString path);
+
+    // $XDG_RUNTIME_DIR (or the temp dir) / ovra-ramps-<display>.bin, where
+    // <display> names the X display so that ":0" and ":0.0" share a file.
+    static QString path_for_display(const char* display_name);
+
+    const QString& path() const { return file_path; }
+
+    // Temp file and rename, so a reader never sees half a file.
+    bool write(const std::vector<KeptCrtcRamps>& crtcs) const;
+    // Invalid comes with a short reason (bad magic, truncated, ...).
+    LoadResult load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const;
+    void remove() const;
+
+private:
+    QString file_path;
+};
