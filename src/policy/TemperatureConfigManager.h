@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+#include <QVector>
+#include <functional>
+#include <map>
+
+#include "policy/CurveConfigFile.h"
+
+// The user's own night temperature by the hour, from "temperatureConfig.txt"
+// in the working directory. Read once; applied on every status update.
+class TemperatureConfigManager
+{
+public:
+    virtual ~TemperatureConfigManager() = default;
+
+    void read_temperature_config();
+    void read_temperature_config(const QString& path);
+    bool is_config_used() const { return !entries.isEmpty(); }
+
+    // Stores the value of the present hour under NightTemperature and runs
+    // update_gamma for every entry that matches.
+    void process_temperature_config(std::map<QString, QVariant>& settings,
+                                    const std::function<void()>& update_gamma) const;
+
+    static int clamp_temperature_config_value(int value);
+
+    const QVector<CurveConfigEntry>& get_entries() const { return entries; }
+
+private:
+    QVector<CurveConfigEntry> entries;
+};
