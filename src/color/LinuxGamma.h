@@ -49,6 +49,8 @@ public:
     int set_temperature_for_display(randr_state_t* state, int crtc_index, const ColorSettings* settings);
     int restore_monitor_colors(int crtc_index);
 
+    randr_state_t* randr_state() const { return state; }
+
     // Where this backend keeps the ramps it found, for a later run to repair
     // a crash; empty before a successful start().
     const std::string& crash_file_path() const { return crash_path; }
