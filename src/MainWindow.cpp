@@ -8,9 +8,9 @@
 #include <iostream>
 
 #include "UnixSignals.h"
-#include "color/ColorSettings.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
+#include "services/OnlineState.h"
 #include "settings/SaveManager.h"
 #include "spells/HiddenFeatures.h"
 
@@ -24,6 +24,9 @@ bool setting_true(const std::map<QString, QVariant>& settings, const char* key)
     return it != settings.end() && it->second.toBool();
 }
 }
+
+GammaFactory* MainWindow::gamma_factory_override = nullptr;
+int MainWindow::screen_count_override = -1;
 
 MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
 {
@@ -49,6 +52,7 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
 
     hidden_features = new HiddenFeatures();
 
+    setup_network_config_manager();
     setup_gamma_timers();
     create_new_gamma();
     // The first colour update happens here, while the backend is fresh.
@@ -60,9 +64,18 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
     setup_signal_handlers();
     check_for_first_start();
     setup_ovra_icon();
+    setup_system_proxy();
+
+    connect(network_manager, &QNetworkAccessManager::finished, this, &MainWindow::update_location);
+
+    brightness_config.read_brightness_config();
+    temperature_config.read_temperature_config();
 
     if (setting_true(settings, "OptimizeUiCreation"))
         restore_settings();
+    // The restore push asks for the location once it exists; until then the
+    // request goes out here, after the stored pair was restored.
+    get_geolocation_data();
 }
 
 MainWindow::~MainWindow()
@@ -72,6 +85,7 @@ MainWindow::~MainWindow()
         delete gamma;
         gamma = nullptr;
     }
+    delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
 }
@@ -347,6 +361,25 @@ void MainWindow::setup_gamma_timers()
         fade->timer = new QTimer(this);
         fade->timer->setInterval(25);
     }
+    connect(restore_fade.timer, &QTimer::timeout, this, &MainWindow::restore_colors_timeout);
+    connect(return_fade.timer, &QTimer::timeout, this, &MainWindow::return_colors_timeout);
+    connect(switch_fade.timer, &QTimer::timeout, this, &MainWindow::switch_state_timeout);
+    connect(switch_return_fade.timer, &QTimer::timeout, this,
+            &MainWindow::switch_state_return_timeout);
+}
+
+const FadeRecord& MainWindow::fade_state(int which) const
+{
+    switch (which) {
+    case 0:
+        return restore_fade;
+    case 1:
+        return return_fade;
+    case 2:
+        return switch_fade;
+    default:
+        return switch_return_fade;
+    }
 }
 
 void MainWindow::setup_signal_handlers()
@@ -357,87 +390,13 @@ void MainWindow::setup_signal_handlers()
     // Every way the program is asked to end leaves through quit(), so that the
     // destructor gives the displays their ramps back.
     connect(unix_signals, &UnixSignals::termination_requested, this, [this](int) { quit(); });
+    // The convention of screen tinters: SIGUSR1 pauses or resumes, with a fade.
+    connect(unix_signals, &UnixSignals::pause_toggle_requested, this, &MainWindow::toggle_pause);
 }
 
 // ---------------------------------------------------------------- the tick
 
-void MainWindow::update_ui() {}
-
-void MainWindow::update_idle_time() {}
-
-void MainWindow::fix_gamma()
+void MainWindow::update_ui()
 {
-    fix_gamma_requested = true;
-}
-
-void MainWindow::fixed_tint(int* temperature, int* brightness_percent)
-{
-    *temperature = 3400;
-    *brightness_percent = 80;
-}
-
-int MainWindow::update_gamma()
-{
-    if (!gamma)
-        return 0;
-    int temperature = 0;
-    int brightness = 0;
-    fixed_tint(&temperature, &brightness);
-    ColorSettings color_settings;
-    color_settings.temperature = temperature;
-    color_settings.brightness = brightness / 100.0f;
-    current_temperature = temperature;
-    current_brightness = brightness;
-    first_update_done = true;
-    return set_temperature(&color_settings, 0);
-}
-
-int MainWindow::set_temperature(ColorSettings* color_settings, int monitor)
-{
-    color_settings->gamma[0] = color_settings->gamma[1] = color_settings->gamma[2] = 1.0f;
-    int result = gamma->set_temperature(color_settings, ignored_monitors, monitor);
-    if (result < 0)
-        result = 0;
-    last_brightness = color_settings->brightness;
-    last_temperature = color_settings->temperature;
-    return result;
-}
-
-// ---------------------------------------------------------------- backend
-
-void MainWindow::create_new_gamma()
-{
-    if (gamma)
-        return;
-    GammaFactory factory;
-    gamma = factory.get_gamma();
-    gamma->init();
-    gamma->start();
-}
-
-void MainWindow::restore_gamma()
-{
-    create_new_gamma();
-    gamma->restore();
-}
-
-void MainWindow::refresh_color_scheme()
-{
-    if (gamma)
-        gamma->set_color_scheme(settings[QStringLiteral("ColorScheme")].toInt());
-    update_gamma();
-}
-
-void MainWindow::refresh_leading_color()
-{
-    if (gamma) {
-        const int leading = settings[QStringLiteral("LeadingColor")].toInt();
-        gamma->set_leading_color(leading > 0 ? leading : 1);
-    }
-    update_gamma();
-}
-
-void MainWindow::refresh_preserve_gamma()
-{
-    update_gamma();
+    process_curve_files();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QString>
 #include <QTimer>
 #include <QVariant>
@@ -8,23 +9,40 @@
 #include <vector>
 
 #include "Singleton.h"
+#include "policy/BrightnessConfigManager.h"
+#include "policy/TemperatureConfigManager.h"
 #include "web/OvraWindow.h"
 
 class IGamma;
+class GammaFactory;
 class HiddenFeatures;
+class OnlineState;
+struct SolarInterpolationValues;
+struct ClockInterpolationValues;
 class Settings;
 class UnixSignals;
 struct ColorSettings;
 
-// One of the four colour fades: a timer and where the fade stands.
+// One of the four colour fades: a timer, where the fade stands and where it
+// goes.
 struct FadeRecord
 {
     QTimer* timer = nullptr;
     bool active = false;
     float temperature = 6500.0f;
     float brightness = 100.0f;
+    float target_temperature = 6500.0f;
+    float target_brightness = 100.0f;
     float temperature_step = 0.0f;
     float brightness_step = 0.0f;
+
+    // Sets the start and the target, raises the flag and starts the timer.
+    void begin(float from_temperature, float from_brightness, float to_temperature,
+               float to_brightness);
+    // Moves both values one step; true once both have passed their targets.
+    bool advance();
+    // Stops the timer, lowers the flag and clears the steps.
+    void stop();
 };
 
 // The central controller and the settings window. It owns the settings map
@@ -50,6 +68,13 @@ public:
 
     IGamma* gamma_backend() const { return gamma; }
     bool is_window_ui_created() const { return ui_created; }
+    const FadeRecord& fade_state(int which) const;
+
+    // Tests put a factory of their own here before the controller is built,
+    // to put a recording backend in place of the display.
+    static GammaFactory* gamma_factory_override;
+    // Tests that need several monitors set the count here; -1 asks Qt.
+    static int screen_count_override;
 
 public slots:
     // Life of the window.
@@ -85,9 +110,51 @@ public slots:
     void reset_blinks() {}
     void refresh_taskbar_button() {}
     void fix_gamma();
+    void refresh_color_fixer();
+    void refresh_color_effects();
+    void refresh_high_level_colors();
+    float get_interpolated_color_temperature(int monitor);
+    float get_interpolated_brightness(int monitor);
+    int get_transition_type();
+    bool is_gamma_paused();
+    bool is_ovra_paused();
+    bool is_color_changes_paused();
+    bool is_day();
+    int get_screen_count();
+    int get_day_temperature(int monitor);
+    int get_night_temperature(int monitor);
+    int get_sleep_temperature(int monitor);
+    int get_day_brightness(int monitor);
+    int get_night_brightness(int monitor);
+    int get_sleep_brightness(int monitor);
+
+    // Pause, resume and the fades.
+    void pause_ovra(bool paused);
+    void toggle_pause();
+    void pause_color_changes(bool paused);
+    void process_restore_colors();
+    void process_return_colors();
+    void restore_colors();
+    void return_colors();
+    void restore_colors_with_switch_state();
+    void return_colors_with_switch_state();
+    void switch_state();
+    void switch_state_return();
+    void restore_colors_timeout();
+    void return_colors_timeout();
+    void switch_state_timeout();
+    void switch_state_return_timeout();
+    void move_to(int temperature, int brightness);
+    void invert_colors();
+    void revert_colors();
+    void toggle_inverted_gamma();
+    void refresh_color_inversion();
+    bool use_inverted_colors();
 
     // Display backend housekeeping.
     void create_new_gamma();
+    void reset_gamma();
+    void reset_colors();
     void restore_gamma();
     void refresh_color_scheme();
     void refresh_leading_color();
@@ -111,8 +178,27 @@ private:
     bool create_ovra_ui();
     void check_for_first_start();
     int set_temperature(ColorSettings* color_settings, int monitor);
-    // What the tick writes until the day curves take over.
-    static void fixed_tint(int* temperature, int* brightness_percent);
+    int update_gamma_for_monitor(int monitor);
+    bool uses_solar_curve();
+    void fill_solar_interpolation_values(SolarInterpolationValues* values);
+    void fill_clock_interpolation_values(ClockInterpolationValues* values);
+    int get_monitor_value(const char* key, int monitor);
+    int pause_fade_ticks();
+    bool is_fade_active() const;
+    void write_fade_values(const FadeRecord& fade);
+    void start_switch_fade(float from_temperature, float from_brightness);
+    void set_inversion(bool inverted);
+
+    // Hooks of subsystems that are not built yet; each is the one place where
+    // that subsystem plugs in (see MainWindowHooks.cpp).
+    bool color_triggers_in_charge();
+    int smart_brightness_modifier();
+    void update_pwm_control_status();
+    bool rest_timer_exists();
+    bool is_rest_started();
+    void start_rest_timer();
+    void stop_rest_timer();
+    void refresh_pause_dependents();
 
     QNetworkAccessManager* network_manager = nullptr;
     IGamma* gamma = nullptr;
@@ -144,4 +230,43 @@ private:
     int last_temperature = -1;
     float last_brightness = -1.0f;
     int last_color_effect = -1;
+    bool inversion_target = false;
+    bool pending_return_fade = false;
+    bool pending_restore_fade = false;
+    bool color_changes_auto_paused = false;
+    QString applied_color_trigger;
+
+    // Location ----------------------------------------------------------------
+    // Where the user is, by IP or by hand; the network set-up; the user's
+    // curve files. Bodies in MainWindowLocation.cpp.
+public slots:
+    bool is_connected_to_internet();
+    void connected_to_internet(bool) {}
+    void get_geolocation_data();
+    void update_location(QNetworkReply* reply);
+    void save_location_data(float latitude_value, float longitude_value);
+    double get_latitude();
+    double get_longitude();
+    void latitude_changed(float value);
+    void longitude_changed(float value);
+    void use_manual_location_changed(bool value);
+    // The times report of the status part; empty until that part lands.
+    void update_times_info() {}
+
+signals:
+    void find_geolocation();
+    void set_geolocation_string(QString geolocation);
+    void set_latitude_value(QString latitude_text);
+    void set_longitude_value(QString longitude_text);
+    void set_use_manual_location(bool value);
+
+private:
+    void setup_network_config_manager();
+    void setup_system_proxy();
+    void process_curve_files();
+
+    OnlineState* network_config_manager = nullptr;
+    BrightnessConfigManager brightness_config;
+    TemperatureConfigManager temperature_config;
+    // End of Location ---------------------------------------------------------
 };

@@ -12,7 +12,21 @@ FIXED_TEMPERATURE = 3400
 FIXED_BRIGHTNESS = 80
 
 
+MANUAL_TINT = {
+    "SaveVersion": 3,
+    "UseManualColorSettings": "true",
+    "UseManualBrightness": "true",
+    "NightTemperature": FIXED_TEMPERATURE,
+    "NightBrightness": FIXED_BRIGHTNESS,
+}
+
+
 class TintAndRestore(OvraTestCase):
+
+    def setUp(self):
+        super().setUp()
+        # Manual values hold the night values at any hour.
+        self.write_config(MANUAL_TINT)
 
     def tinted(self):
         return expected_tint(self.original, FIXED_TEMPERATURE, FIXED_BRIGHTNESS)
@@ -31,7 +45,7 @@ class TintAndRestore(OvraTestCase):
                 self.assertEqual(read_ramps(), self.original)
 
     def test_closing_the_window_without_tray_quits_and_restores(self):
-        p = self.start()
+        p = self.start("--show_ui")
         self.wait_for_ramps(self.tinted())
         window = wait_for(lambda: subprocess.run(
             ["xdotool", "search", "--pid", str(p.pid), "--name", "^Ovra$"],

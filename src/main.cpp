@@ -1,0 +1,33 @@
+#include <QGuiApplication>
+
+#include "MainWindow.h"
+#include "SingleApplication.h"
+#include "services/DisplayProbe.h"
+#include "settings/SaveKeys.h"
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIntValue("OVRA_DEBUG") != 1)
+        qInstallMessageHandler(noMessageOutput);
+    qputenv("QT_BEARER_POLL_TIMEOUT", QByteArray::number(-1));
+    QCoreApplication::setApplicationName(SaveKeys::APPLICATION);
+    QCoreApplication::setOrganizationName(SaveKeys::ORGANIZATION);
+
+    // Without an X server there is nothing to tint and Qt would abort on its
+    // own; say so once and leave before anything is written.
+    if (!DisplayProbe::display_reachable())
+        return 1;
+
+    SingleApplication app(argc, argv);
+    MainWindow window(nullptr);
+    app.setMainWindow(&window);
+    if (argc > 1) {
+        for (int i = 0; i < argc; ++i) {
+            if (qstrcmp(argv[i], "--show_ui") == 0)
+                window.set_open_ovra_after_load_finished(true);
+        }
+    }
+    QObject::connect(&app, SIGNAL(process_arguments()), &window, SLOT(process_api_command()));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    return app.exec();
+}
