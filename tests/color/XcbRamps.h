@@ -82,6 +82,16 @@ public:
         return s;
     }
 
+    // Whether the CRTC drives an output with a mode right now.
+    bool active(int index) const
+    {
+        auto* info = xcb_randr_get_crtc_info_reply(
+            conn, xcb_randr_get_crtc_info(conn, crtcs[index], XCB_CURRENT_TIME), nullptr);
+        const bool on = info && info->mode != XCB_NONE;
+        free(info);
+        return on;
+    }
+
     // Entry j = f(j) on all three channels.
     template <typename F>
     bool set_curve(int index, F f) const
