@@ -1,0 +1,105 @@
+#pragma once
+
+// Shared by the time tests: a time zone and a standing clock for one test,
+// and the reference tables written by make_sun_reference.py.
+
+#include "time/Clock.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QFile>
+#include <QString>
+#include <QStringList>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <map>
+#include <vector>
+
+namespace time_test {
+
+// Puts the process into a time zone for the lifetime of the object.
+class ScopedTimeZone
+{
+public:
+    explicit ScopedTimeZone(const char* zone)
+    {
+        const char* old = std::getenv("TZ");
+        had_old = old != nullptr;
+        if (had_old)
+            old_zone = old;
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    ~ScopedTimeZone()
+    {
+        if (had_old)
+            setenv("TZ", old_zone.constData(), 1);
+        else
+            unsetenv("TZ");
+        tzset();
+    }
+    ScopedTimeZone(const ScopedTimeZone&) = delete;
+    ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
+
+private:
+    bool had_old = false;
+    QByteArray old_zone;
+};
+
+// Installs a standing clock for the lifetime of the object.
+class ScopedClock
+{
+public:
+    ScopedClock() { Clock::set_instance(&clock); }
+    ~ScopedClock() { Clock::set_instance(nullptr); }
+    ScopedClock(const ScopedClock&) = delete;
+    ScopedClock& operator=(const ScopedClock&) = delete;
+
+    void at_msecs(qint64 msecs) { clock.set(QDateTime::fromMSecsSinceEpoch(msecs)); }
+    // A local wall-clock time in the zone in force.
+    void at_local(int year, int month, int day, int hour, int minute, int second = 0, int msec = 0)
+    {
+        clock.set(QDateTime(QDate(year, month, day), QTime(hour, minute, second, msec), Qt::LocalTime));
+    }
+
+    FixedClock clock;
+};
+
+using Row = std::map<QString, QString>;
+
+inline std::vector<Row> read_table(const char* file_name)
+{
+    std::vector<Row> rows;
+    const QByteArray dir = qgetenv("OVRA_TEST_DATA");
+    QFile file(QString::fromLocal8Bit(dir) + '/' + file_name);
+    if (dir.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        ADD_FAILURE() << "cannot read " << file_name << " (OVRA_TEST_DATA=" << dir.constData() << ")";
+        return rows;
+    }
+    const QStringList header = QString::fromUtf8(file.readLine()).trimmed().split(',');
+    while (!file.atEnd()) {
+        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+        if (line.isEmpty())
+            continue;
+        const QStringList cells = line.split(',');
+        Row row;
+        for (int i = 0; i < header.size() && i < cells.size(); ++i)
+            row[header[i]] = cells[i];
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+inline const Row* find_row(const std::vector<Row>& rows, const QString& name)
+{
+    for (const Row& row : rows)
+        if (row.at("name") == name)
+            return &row;
+    return nullptr;
+}
+
+} // namespace time_test
