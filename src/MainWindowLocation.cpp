@@ -1,0 +1,120 @@
+#include "MainWindow.h"
+
+#include <QDebug>
+#include <QNetworkReply>
+
+#include "services/GeolocationRequest.h"
+#include "services/LocationParser.h"
+#include "services/OnlineState.h"
+#include "services/SystemProxy.h"
+#include "settings/SaveKeys.h"
+#include "settings/SaveManager.h"
+
+namespace {
+bool use_manual_location(std::map<QString, QVariant>& settings)
+{
+    return settings[QString::fromLatin1(SaveKeys::USE_MANUAL_LOCATION)].toBool();
+}
+}
+
+void MainWindow::setup_network_config_manager()
+{
+    network_config_manager = new OnlineState();
+    connect(network_config_manager, &OnlineState::online_state_changed, this,
+            &MainWindow::connected_to_internet);
+}
+
+bool MainWindow::is_connected_to_internet()
+{
+    return !network_config_manager || network_config_manager->is_online();
+}
+
+void MainWindow::setup_system_proxy()
+{
+    SystemProxy::apply();
+}
+
+void MainWindow::get_geolocation_data()
+{
+    if (!use_manual_location(settings)) {
+        if (is_connected_to_internet()) {
+            GeolocationRequest::send(network_manager);
+            emit find_geolocation();
+        }
+        return;
+    }
+    emit set_geolocation_string(LocationParser::format_location(latitude, longitude));
+}
+
+void MainWindow::update_location(QNetworkReply* reply)
+{
+    reply->deleteLater();
+    if (use_manual_location(settings))
+        return;
+    // A request that failed or timed out says nothing about where we are;
+    // the stored pair stays, and with it the choice of curve.
+    if (reply->error() != QNetworkReply::NoError)
+        return;
+    LocationParser::read_location(reply->readAll(), &latitude, &longitude);
+    save_location_data(latitude, longitude);
+}
+
+void MainWindow::save_location_data(float latitude_value, float longitude_value)
+{
+    if (use_manual_location(settings))
+        return;
+    if (SaveManager::s_instance)
+        SaveManager::s_instance->save_location_data(latitude_value, longitude_value);
+    update_times_info();
+}
+
+double MainWindow::get_latitude()
+{
+    return latitude;
+}
+
+double MainWindow::get_longitude()
+{
+    return longitude;
+}
+
+void MainWindow::latitude_changed(float value)
+{
+    if (latitude == value)
+        return;
+    qDebug() << "latitude_changed: " << value;
+    latitude = value;
+    emit set_latitude_value(LocationParser::format_coordinate(latitude));
+    update_times_info();
+}
+
+void MainWindow::longitude_changed(float value)
+{
+    if (longitude == value)
+        return;
+    qDebug() << "longitude_changed: " << value;
+    longitude = value;
+    emit set_longitude_value(LocationParser::format_coordinate(longitude));
+    update_times_info();
+}
+
+void MainWindow::use_manual_location_changed(bool value)
+{
+    const QString key = QString::fromLatin1(SaveKeys::USE_MANUAL_LOCATION);
+    if (settings[key].toBool() == value)
+        return;
+    qDebug() << "use_manual_location: " << value;
+    settings[key] = value;
+    if (is_connected_to_internet())
+        get_geolocation_data();
+    emit set_use_manual_location(settings[key].toBool());
+    update_times_info();
+}
+
+void MainWindow::process_curve_files()
+{
+    if (brightness_config.is_config_used())
+        brightness_config.process_brightness_config(settings, [this] { update_gamma(); });
+    if (temperature_config.is_config_used())
+        temperature_config.process_temperature_config(settings, [this] { update_gamma(); });
+}
