@@ -4,13 +4,13 @@ build=${1:-build}
 for b in "$build"/bench/*_bench; do
   [ -x "$b" ] || continue
   echo "== $(basename "$b")"
-  "$b" --benchmark_min_time=0.2 || echo "(failed: $b)"
+  ./tests/tools/isolated "$b" --benchmark_min_time=0.2 || echo "(failed: $b)"
 done
 for s in bench/*.sh bench/*.py; do
   [ -f "$s" ] || continue
   echo "== $(basename "$s")"
   case "$s" in
-    *.py) /usr/bin/python3 "$s" "$build" ;;
+    *.py) ./tests/tools/isolated /usr/bin/python3 "$s" "$build" ;;
     *) sh "$s" "$build" ;;
   esac
 done
