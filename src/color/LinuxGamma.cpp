@@ -173,7 +173,10 @@ int LinuxGamma::start()
         free(gamma_reply);
     }
 
-    recover_after_crash();
+    // A file this backend wrote itself on an earlier start is no sign of a
+    // crash; it is only brought up to date.
+    if (!owns_crash_file)
+        recover_after_crash();
     keep_ramps_for_recovery();
     return 0;
 }

@@ -363,3 +363,20 @@ TEST(LinuxGammaWithoutServer, AnUnreachableDisplayDoesNotCrash)
     EXPECT_FALSE(gamma.is_connected());
     testing::internal::GetCapturedStderr();
 }
+
+TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
+{
+    LinuxGamma gamma;
+    ASSERT_EQ(gamma.start(), 0);
+    ColorSettings s = settings_of(3400, 1.0f);
+    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+    const CrtcRamps tinted = probe->get(0);
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(gamma.start(), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    // The server was left alone, and what start reads now is what it keeps.
+    EXPECT_EQ(probe->get(0), tinted);
+    ASSERT_TRUE(probe->set_curve(0, identity));
+    EXPECT_EQ(gamma.restore(), 0);
+    EXPECT_EQ(probe->get(0), tinted);
+}
