@@ -2,6 +2,9 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -379,4 +382,35 @@ TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
     ASSERT_TRUE(probe->set_curve(0, identity));
     EXPECT_EQ(gamma.restore(), 0);
     EXPECT_EQ(probe->get(0), tinted);
+}
+
+TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
+{
+    ASSERT_TRUE(probe->set_curve(0, calibration));
+    const CrtcRamps original = probe->get(0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        // Its own connection, its tint on the screen, then kill -9.
+        LinuxGamma* dying = new LinuxGamma;
+        ColorSettings s = settings_of(1900, 0.4f);
+        if (dying->start() != 0 || dying->set_temperature(&s, {}, 0) != 0)
+            _exit(1);
+        raise(SIGKILL);
+        _exit(2);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "child exited with " << WEXITSTATUS(status);
+    ASSERT_FALSE(probe->get(0) == original);
+
+    LinuxGamma next;
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(next.start(), 0);
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(probe->get(0), original);
+    ColorSettings s = settings_of(3400, 1.0f);
+    ASSERT_EQ(next.set_temperature(&s, {}, 0), 0);
+    EXPECT_EQ(next.restore(), 0);
+    EXPECT_EQ(probe->get(0), original);
 }
