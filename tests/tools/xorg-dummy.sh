@@ -23,9 +23,15 @@ start() {
         echo "xorg-dummy: Xorg or its dummy driver (xserver-xorg-video-dummy) is not installed" >&2
         exit 77
     fi
+    # mkdir of the state directory claims a number, so that two starts at
+    # the same moment do not pick the same one.
     n=140
-    while [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ] || [ -e "$(state_dir $n)" ]; do
+    while [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ] || ! mkdir "$(state_dir $n)" 2>/dev/null; do
         n=$((n + 1))
+        if [ $n -gt 400 ]; then
+            echo "xorg-dummy: no free display number" >&2
+            exit 77
+        fi
     done
     dir=$(state_dir $n)
     mkdir -p "$dir/conf.d" || exit 1
