@@ -38,9 +38,9 @@ void ColorRamp::set_color_scheme(int scheme)
 // reads may run past a row on purpose. Anything past the end of the table
 // holds at its last full row, in the same column; anything before the start
 // holds at the first row.
-float ColorRamp::table_value(int position) const
+float ColorRamp::table_value(long long position) const
 {
-    const int size = color_temperature_rows * 3;
+    const long long size = color_temperature_rows * 3;
     if (position >= size)
         position = size - 3 + position % 3;
     else if (position < 0)
@@ -58,7 +58,9 @@ void ColorRamp::white_point(int temperature, float* result)
 {
     if (temperature < 0)
         temperature = 0;
-    const int index = (temperature / 100) * 3 + leading_color - 1;
+    // The leading colour comes from settings unchecked; wide arithmetic keeps
+    // an absurd value a bounded read instead of an overflow.
+    const long long index = (temperature / 100) * 3 + static_cast<long long>(leading_color) - 1;
     const float alpha = static_cast<float>((temperature % 100) / 100.0);
     float first[3];
     float second[3];

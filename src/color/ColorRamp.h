@@ -32,7 +32,7 @@ public:
     void white_point(int temperature, float* result);
 
 private:
-    float table_value(int position) const;
+    float table_value(long long position) const;
 
     const float* color_temperature;
     int leading_color = 1;

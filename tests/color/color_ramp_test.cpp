@@ -307,3 +307,21 @@ TEST(ColorRamp, XformrgbUsesTheUpperFourRows)
     EXPECT_FLOAT_EQ(g, 2 + 2.5f + 2 + 20);      // 1*2 + .5*5 + .25*8 + 20
     EXPECT_FLOAT_EQ(b, 3 + 3 + 2.25f + 30);     // 1*3 + .5*6 + .25*9 + 30
 }
+
+TEST(ColorRamp, AnAbsurdLeadingColourStaysInsideTheTable)
+{
+    ColorRamp ramp;
+    ramp.set_leading_color(2147483647);
+    // Far past the end: every read holds at the last row, column by column.
+    std::vector<float> w = white_point(ramp, 3400);
+    for (float v : w) {
+        EXPECT_GE(v, 0.62740336f);
+        EXPECT_LE(v, 1.0f);
+    }
+    ramp.set_leading_color(-2147483647);
+    w = white_point(ramp, 3400);
+    for (float v : w) {
+        EXPECT_GE(v, 0.0f);
+        EXPECT_LE(v, 1.0f);
+    }
+}
