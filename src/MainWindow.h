@@ -250,8 +250,8 @@ public slots:
     void latitude_changed(float value);
     void longitude_changed(float value);
     void use_manual_location_changed(bool value);
-    // The times report of the status part; empty until that part lands.
-    void update_times_info() {}
+    // The times report of the status part (MainWindowTimesInfo.cpp).
+    void update_times_info();
 
 signals:
     void find_geolocation();
@@ -269,4 +269,143 @@ private:
     BrightnessConfigManager brightness_config;
     TemperatureConfigManager temperature_config;
     // End of Location ---------------------------------------------------------
+
+    // Types, modes and colour values --------------------------------------------
+    // The nine types and three modes, the advanced view switch, the six
+    // colour values per monitor with their switches, durations, offsets and
+    // time pairs, and the times report. Bodies in MainWindowTypes.cpp,
+    // MainWindowValues.cpp and MainWindowTimesInfo.cpp; the tables in
+    // src/policy (OvraTypes, OvraModes, AdvancedShadows, ValueGiveWay).
+public slots:
+    void ovra_type_changed(int type);
+    void ovra_type_changed_force(int type, bool force);
+    void ovra_mode_changed(int mode);
+    void ovra_mode_changed_force(int mode, bool force);
+    void change_mode();
+    void use_advanced_settings_changed(bool is_advanced_view, int width, int height);
+    void use_advanced_settings_changed(bool is_advanced_view, int width);
+    void use_advanced_settings_changed(bool is_advanced_view);
+    void timer_type_changed(int value);
+
+    void day_temperature_changed(int value, int monitor);
+    void night_temperature_changed(int value, int monitor);
+    void sleep_light_changed(int value, int monitor);
+    void day_brightness_changed(int value, int monitor);
+    void night_brightness_changed(int value, int monitor);
+    void sleep_brightness_changed(int value, int monitor);
+    void auto_brightness_changed(int value);
+
+    void use_manual_color_settings_changed(bool value);
+    void use_manual_brightness_changed(bool value);
+    void use_sleep_light_changed(bool value);
+    void use_per_monitor_settings_changed(bool value);
+    void temperature_extended_values_changed(bool value);
+    void brightness_extended_values_changed(bool value);
+    void day_transition_duration_changed(int value);
+    void night_transition_duration_changed(int value);
+    void sleep_transition_duration_changed(int value);
+    void time_zone_offset_changed(int value);
+    void new_moon_offset_changed(int value);
+    void full_moon_offset_changed(int value);
+    void night_start_time_changed(int hours, int minutes);
+    void night_end_time_changed(int hours, int minutes);
+    void bedtime_changed(int hours, int minutes);
+    void wake_time_changed(int hours, int minutes);
+
+    void current_active_monitor_changed(int monitor);
+    void restore_advanced_settings_values();
+
+    QString get_transition_times_info_string();
+    void update_transition_times_info();
+    void update_moon_phases_info();
+
+    // Named places of parts not built yet (MainWindowHooks.cpp).
+    void update_ovra_status();
+    void refresh_overlay_screens(bool force);
+    void refresh_lightness_screens(bool force);
+    void use_overlay_screen_changed(bool value);
+    void use_lightness_screen_changed(bool value);
+    void reset_timer();
+
+signals:
+    void set_ovra_type_dropdown_value_ui(int value);
+    void set_ovra_mode_dropdown_value_ui(int value);
+    // The page answers these two by calling the _force slot with force true.
+    void set_ovra_type_dropdown_value(int value);
+    void set_ovra_mode_dropdown_value(int value);
+    void set_use_advanced_settings(bool value);
+    void set_timer_type_dropdown_value(int value);
+    void set_strictness_value(int value);
+
+    void set_day_temperature_slider_value(int value);
+    void set_day_temperature_slider_value_ui(int value);
+    void set_night_temperature_slider_value(int value);
+    void set_night_temperature_slider_value_ui(int value);
+    void set_sleep_light_slider_value(int value);
+    void set_sleep_light_slider_value_ui(int value);
+    void set_day_brightness_slider_value(int value);
+    void set_day_brightness_slider_value_ui(int value);
+    void set_night_brightness_slider_value(int value);
+    void set_night_brightness_slider_value_ui(int value);
+    void set_sleep_brightness_slider_value(int value);
+    void set_sleep_brightness_slider_value_ui(int value);
+
+    void set_use_manual_color_settings(bool value);
+    void set_use_manual_brightness(bool value);
+    void set_use_sleep_light(bool value);
+    void set_use_per_monitor_settings(bool value);
+    void set_temperature_extended_values(bool value);
+    void set_brightness_extended_values(bool value);
+    void set_day_transition_duration_value(int value);
+    void set_night_transition_duration_value(int value);
+    void set_sleep_transition_duration_value(int value);
+    void set_time_zone_offset_value(int value);
+    void set_new_moon_offset_value(int value);
+    void set_full_moon_offset_value(int value);
+    void set_night_start_time_value(int hours, int minutes);
+    void set_night_end_time_value(int hours, int minutes);
+    void set_bedtime_value(int hours, int minutes);
+    void set_wake_time_value(int hours, int minutes);
+
+    void set_use_color_effects(bool value);
+    void set_color_effect_dropdown_value(int value);
+    void set_use_overlay_screen(bool value);
+    void set_day_opacity_slider_value(int value);
+    void set_night_opacity_slider_value(int value);
+    void set_day_dim_slider_value(int value);
+    void set_night_dim_slider_value(int value);
+    void set_use_lightness_screen(bool value);
+    void set_lightness_screen_opacity_slider_value(int value);
+    void set_lightness_screen_radius_slider_value(int value);
+    void set_lightness_screen_x_position_slider_value(int value);
+    void set_lightness_screen_y_position_slider_value(int value);
+
+    void set_transition_times_info(QString value);
+    void set_moon_phases_info(QString value);
+
+private:
+    using ValueSignal = void (MainWindow::*)(int);
+    using PairSignal = void (MainWindow::*)(int, int);
+    using SwitchSignal = void (MainWindow::*)(bool);
+    void apply_type(int type, int old_type);
+    void apply_mode(int mode, int old_mode);
+    void move_to_interpolated();
+    void change_temperature_value(const char* temperature_key, const char* brightness_key,
+                                  int value, int monitor, ValueSignal temperature_ui,
+                                  ValueSignal brightness_ui);
+    void change_brightness_value(const char* temperature_key, const char* brightness_key,
+                                 int value, int monitor, ValueSignal temperature_ui,
+                                 ValueSignal brightness_ui);
+    void change_switch(const char* key, const char* shadow, bool value, bool update,
+                       SwitchSignal signal);
+    void change_curve_number(const char* key, int value, ValueSignal signal);
+    void change_time_pair(const char* hours_key, const char* minutes_key, int hours,
+                          int minutes, PairSignal signal);
+
+    // Hooks of the tray and the break timer, which are not built yet.
+    void tray_refresh_selected_type();
+    void tray_refresh_selected_mode();
+    void tray_refresh_tray_icon_actions();
+    void rest_timer_set_timer_type(int value);
+    // End of Types, modes and colour values ----------------------------------
 };
