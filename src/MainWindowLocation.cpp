@@ -7,6 +7,7 @@
 #include "services/LocationParser.h"
 #include "services/OnlineState.h"
 #include "services/SystemProxy.h"
+#include "settings/ChangeRule.h"
 #include "settings/SaveKeys.h"
 #include "settings/SaveManager.h"
 
@@ -100,15 +101,15 @@ void MainWindow::longitude_changed(float value)
 
 void MainWindow::use_manual_location_changed(bool value)
 {
-    const QString key = QString::fromLatin1(SaveKeys::USE_MANUAL_LOCATION);
-    if (settings[key].toBool() == value)
-        return;
-    qDebug() << "use_manual_location: " << value;
-    settings[key] = value;
-    if (is_connected_to_internet())
-        get_geolocation_data();
-    emit set_use_manual_location(settings[key].toBool());
-    update_times_info();
+    const bool changed = change_setting(
+        settings, QString::fromLatin1(SaveKeys::USE_MANUAL_LOCATION), value,
+        [this] {
+            if (is_connected_to_internet())
+                get_geolocation_data();
+        },
+        [this](const QVariant& stored) { emit set_use_manual_location(stored.toBool()); });
+    if (changed)
+        update_times_info();
 }
 
 void MainWindow::process_curve_files()
