@@ -1,0 +1,166 @@
+#pragma once
+
+// A MainWindow for unit tests: the display replaced by a recording backend,
+// a store written beforehand, a standing clock, and the fades driven by
+// calling their timer slots by hand.
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QSettings>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "MainWindow.h"
+#include "color/GammaFactory.h"
+#include "color/IGamma.h"
+#include "settings/SaveManager.h"
+#include "time/Clock.h"
+#include "time/ClockPosition.h"
+#include "time/SolarPosition.h"
+
+namespace controller_test {
+
+struct Call
+{
+    std::string what; // "write" or "restore"
+    int temperature = 0;
+    float brightness = 0.0f;
+    int monitor = 0;
+    bool inverted = false;
+};
+
+class RecordingGamma : public IGamma
+{
+public:
+    explicit RecordingGamma(std::vector<Call>* calls) : calls(calls) {}
+    int start() override { return 0; }
+    int restore() override
+    {
+        calls->push_back({"restore", 0, 0.0f, 0, use_inverted_gamma});
+        return 0;
+    }
+    int get_screen_count() override { return 2; }
+    int set_temperature(const ColorSettings* s, std::vector<int>, int monitor) override
+    {
+        calls->push_back({"write", s->temperature, s->brightness, monitor, use_inverted_gamma});
+        return 0;
+    }
+    std::vector<Call>* calls;
+};
+
+class RecordingFactory : public GammaFactory
+{
+public:
+    IGamma* get_gamma() override { return new RecordingGamma(&calls); }
+    std::vector<Call> calls;
+};
+
+// The four fades, as MainWindow::fade_state numbers them.
+const int RESTORE = 0;
+const int RETURN = 1;
+const int SWITCH = 2;
+const int SWITCH_RETURN = 3;
+
+class ControllerTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("TZ", "UTC");
+        tzset();
+        clock.set(QDateTime(QDate(2026, 6, 21), QTime(12, 0), Qt::UTC));
+        Clock::set_instance(&clock);
+        MainWindow::gamma_factory_override = &factory;
+        store_values = {
+            {"SaveVersion", "3"},
+            {"PauseTransitionDuration", 1000},
+            {"UseManualColorSettings", true},
+            {"UseManualBrightness", true},
+            {"NightTemperature", 3400},
+            {"NightBrightness", 80},
+        };
+    }
+
+    void TearDown() override
+    {
+        window.reset();
+        delete save_manager;
+        delete clock_position;
+        delete solar_position;
+        Clock::set_instance(nullptr);
+        MainWindow::gamma_factory_override = nullptr;
+        MainWindow::screen_count_override = -1;
+        QSettings(QCoreApplication::organizationName(), SaveManager::store_application_name()).clear();
+    }
+
+    // Writes store_values to the store and builds the managers and the
+    // controller, as the application object would.
+    void start()
+    {
+        QCoreApplication::setOrganizationName("Morvenik");
+        QCoreApplication::setApplicationName("Ovra");
+        {
+            QSettings store(QCoreApplication::organizationName(),
+                            SaveManager::store_application_name());
+            store.clear();
+            for (const auto& [key, value] : store_values)
+                store.setValue(key, value);
+        }
+        save_manager = new SaveManager();
+        solar_position = new SolarPosition();
+        clock_position = new ClockPosition();
+        window = std::make_unique<MainWindow>(nullptr);
+    }
+
+    std::vector<Call> writes() const
+    {
+        std::vector<Call> result;
+        for (const Call& c : factory.calls)
+            if (c.what == "write")
+                result.push_back(c);
+        return result;
+    }
+
+    // Runs a fade's timer slot by hand until the fade ends.
+    int finish_fade(int which, void (MainWindow::*timeout)(), int limit = 1000)
+    {
+        int ticks = 0;
+        while (window->fade_state(which).active && ticks < limit) {
+            (window.get()->*timeout)();
+            ++ticks;
+        }
+        return ticks;
+    }
+
+    // Lets every running fade end, in the order they hand over to each other.
+    void finish_all_fades()
+    {
+        finish_fade(SWITCH, &MainWindow::switch_state_timeout);
+        finish_fade(SWITCH_RETURN, &MainWindow::switch_state_return_timeout);
+        finish_fade(RESTORE, &MainWindow::restore_colors_timeout);
+        finish_fade(RETURN, &MainWindow::return_colors_timeout);
+    }
+
+    // A map value, read without adding the key.
+    QVariant stored(const char* key) const
+    {
+        const auto found = window->settings.find(QString::fromLatin1(key));
+        return found == window->settings.end() ? QVariant() : found->second;
+    }
+
+    FixedClock clock;
+    RecordingFactory factory;
+    std::map<QString, QVariant> store_values;
+    SaveManager* save_manager = nullptr;
+    SolarPosition* solar_position = nullptr;
+    ClockPosition* clock_position = nullptr;
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace controller_test
