@@ -97,6 +97,11 @@ protected:
         Clock::set_instance(&clock);
         MainWindow::gamma_factory_override = &factory;
         qputenv("OVRA_GEOLOCATION_URL", service.base());
+        // The program takes the desktop's proxy; the local service must be
+        // reached directly.
+        for (const char* name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY",
+                                 "HTTPS_PROXY", "ALL_PROXY"})
+            qunsetenv(name);
         store_values = {
             {"SaveVersion", "3"},
             {"UseManualColorSettings", true},
