@@ -70,6 +70,8 @@ protected:
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(content);
+        // Flushed first: a later flush would stamp the time of the write.
+        file.flush();
         file.setFileTime(QDateTime::fromSecsSinceEpoch(1600000000 + 10 * ++generation),
                          QFileDevice::FileModificationTime);
         file.close();
