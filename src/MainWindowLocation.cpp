@@ -79,6 +79,8 @@ double MainWindow::get_longitude()
     return longitude;
 }
 
+// The pair lives in members rather than in the map, so the change rule's map
+// helper does not apply; the file gets the pair on the next save.
 void MainWindow::latitude_changed(float value)
 {
     if (latitude == value)
