@@ -93,6 +93,9 @@ protected:
         delete save_manager;
         delete clock_position;
         delete solar_position;
+        save_manager = nullptr;
+        clock_position = nullptr;
+        solar_position = nullptr;
         Clock::set_instance(nullptr);
         MainWindow::gamma_factory_override = nullptr;
         MainWindow::screen_count_override = -1;

@@ -1,0 +1,441 @@
+// Types, modes and the advanced view on the controller, with a recording
+// display: what each writes into the map, what reaches the display at the
+// end of its fade, and what the page is told.
+#include <gtest/gtest.h>
+
+#include <QSettings>
+#include <QStringList>
+
+#include "ControllerFixture.h"
+
+namespace {
+
+using namespace controller_test;
+
+// One row of the type table: the six values, inversion and the screen keys.
+struct TypeRow
+{
+    int type;
+    int day_temperature, night_temperature, sleep_light;
+    int day_brightness, night_brightness, sleep_brightness;
+    bool inverted;
+    bool color_effects;
+    bool overlay;
+    bool lightness;
+};
+
+const TypeRow TYPE_TABLE[] = {
+    {1, 5000, 3400, 2700, 100, 80, 75, false, false, false, false},
+    {2, 0, 0, 0, 100, 80, 75, false, false, false, false},
+    {3, 5000, 3400, 2700, 100, 80, 75, false, true, false, false},
+    {4, 5000, 3400, 2700, 100, 80, 75, true, false, false, false},
+    {5, 0, 0, 0, 100, 80, 75, true, false, false, false},
+    {6, 6500, 6500, 6500, 100, 75, 65, false, false, false, false},
+    {7, 5000, 3400, 2700, 100, 80, 75, false, false, false, true},
+    {8, 6500, 6500, 6500, 120, 120, 120, false, false, false, false},
+    {9, 6500, 6500, 6500, 100, 100, 100, false, false, true, false},
+};
+
+class Types : public ControllerTest
+{
+protected:
+    // Starts with values no type has, every screen and effect on, and colour
+    // changes paused, so that a type has something to change.
+    void start_custom()
+    {
+        store_values["DayTemperature"] = 4100;
+        store_values["NightTemperature"] = 2300;
+        store_values["SleepLight"] = 1900;
+        store_values["DayBrightness"] = 90;
+        store_values["NightBrightness"] = 60;
+        store_values["SleepBrightness"] = 50;
+        store_values["UseColorEffects"] = true;
+        store_values["ColorEffect"] = 5;
+        store_values["UseOverlayScreen"] = true;
+        store_values["UseLightnessScreen"] = true;
+        store_values["ColorChangesPaused"] = true;
+        store_values["LightnessScreenOpacity"] = 70;
+        store_values["DayOpacity"] = 20;
+        store_values["OvraType"] = 0;
+        start();
+        connect_page();
+    }
+
+    void connect_page()
+    {
+        QObject::connect(window.get(), &MainWindow::set_ovra_type_dropdown_value_ui,
+                         [this](int v) { page << QString("type_ui=%1").arg(v); });
+        QObject::connect(window.get(), &MainWindow::set_ovra_mode_dropdown_value_ui,
+                         [this](int v) { page << QString("mode_ui=%1").arg(v); });
+        QObject::connect(window.get(), &MainWindow::set_use_advanced_settings,
+                         [this](bool v) { page << QString("advanced=%1").arg(v); });
+        QObject::connect(window.get(), &MainWindow::set_timer_type_dropdown_value,
+                         [this](int v) { page << QString("timer_type=%1").arg(v); });
+        QObject::connect(window.get(), &MainWindow::set_strictness_value,
+                         [this](int v) { page << QString("strictness=%1").arg(v); });
+    }
+
+    // The page answers the plain dropdown signals by calling the _force
+    // slots with force true.
+    void connect_answering_page()
+    {
+        QObject::connect(window.get(), &MainWindow::set_ovra_type_dropdown_value,
+                         [this](int v) { window->ovra_type_changed_force(v, true); });
+        QObject::connect(window.get(), &MainWindow::set_ovra_mode_dropdown_value,
+                         [this](int v) { window->ovra_mode_changed_force(v, true); });
+    }
+
+    int number(const char* key) const { return stored(key).toInt(); }
+    bool flag(const char* key) const { return stored(key).toBool(); }
+
+    QStringList page;
+};
+
+TEST_F(Types, EachTypeWritesItsRowClearsThePauseAndFadesToItsNightValues)
+{
+    for (const TypeRow& row : TYPE_TABLE) {
+        SCOPED_TRACE(row.type);
+        start_custom();
+        ASSERT_TRUE(flag("ColorChangesPaused"));
+        factory.calls.clear();
+
+        window->ovra_type_changed(row.type);
+
+        EXPECT_EQ(number("OvraType"), row.type);
+        EXPECT_FALSE(flag("ColorChangesPaused"));
+        EXPECT_EQ(number("DayTemperature"), row.day_temperature);
+        EXPECT_EQ(number("NightTemperature"), row.night_temperature);
+        EXPECT_EQ(number("SleepLight"), row.sleep_light);
+        EXPECT_EQ(number("DayBrightness"), row.day_brightness);
+        EXPECT_EQ(number("NightBrightness"), row.night_brightness);
+        EXPECT_EQ(number("SleepBrightness"), row.sleep_brightness);
+        EXPECT_EQ(flag("UseColorEffects"), row.color_effects);
+        EXPECT_EQ(flag("UseOverlayScreen"), row.overlay);
+        EXPECT_EQ(flag("UseLightnessScreen"), row.lightness);
+        EXPECT_EQ(flag("UseInvertedColors"), row.inverted);
+        EXPECT_EQ(page.last(), QString("type_ui=%1").arg(row.type));
+
+        finish_all_fades();
+        const auto w = writes();
+        ASSERT_FALSE(w.empty());
+        // Manual values at noon: the night column is on the display.
+        EXPECT_EQ(w.back().temperature, row.night_temperature);
+        EXPECT_NEAR(w.back().brightness, row.night_brightness / 100.0, 1e-5);
+        EXPECT_EQ(w.back().inverted, row.inverted);
+
+        TearDown();
+        SetUp();
+        page.clear();
+    }
+}
+
+TEST_F(Types, ScreensAndEffectsOfReadingDarkAndOverlay)
+{
+    start_custom();
+    window->ovra_type_changed(3);
+    EXPECT_EQ(number("ColorEffect"), 2);
+    EXPECT_EQ(number("LightnessScreenOpacity"), 70) << "Reading leaves the lightness values";
+
+    window->ovra_type_changed(7);
+    EXPECT_EQ(number("LightnessScreenOpacity"), 30);
+    EXPECT_EQ(number("LightnessScreenRadius"), 30);
+    EXPECT_EQ(number("LightnessScreenXPosition"), 50);
+    EXPECT_EQ(number("LightnessScreenYPosition"), 50);
+    EXPECT_EQ(number("ColorEffect"), 2) << "only Reading sets the effect";
+    EXPECT_TRUE(flag("UseLightnessScreen"));
+    EXPECT_FALSE(flag("UseOverlayScreen"));
+    EXPECT_EQ(number("DayOpacity"), 20);
+
+    window->ovra_type_changed(9);
+    EXPECT_EQ(number("DayOpacity"), 5);
+    EXPECT_EQ(number("NightOpacity"), 40);
+    EXPECT_EQ(number("DayDim"), 0);
+    EXPECT_EQ(number("NightDim"), 10);
+    EXPECT_TRUE(flag("UseOverlayScreen"));
+    EXPECT_FALSE(flag("UseLightnessScreen"));
+}
+
+TEST_F(Types, CustomAndUnknownTypesWriteOnlyTheBaseValues)
+{
+    for (int type : {0, 10, 42}) {
+        SCOPED_TRACE(type);
+        store_values["UseInvertedColors"] = true;
+        start_custom();
+        window->ovra_type_changed(type);
+        EXPECT_EQ(number("OvraType"), type);
+        EXPECT_EQ(number("DayTemperature"), 5000);
+        EXPECT_EQ(number("NightTemperature"), 3400);
+        EXPECT_EQ(number("SleepLight"), 2700);
+        EXPECT_EQ(number("DayBrightness"), 100);
+        EXPECT_EQ(number("NightBrightness"), 80);
+        EXPECT_EQ(number("SleepBrightness"), 75);
+        EXPECT_FALSE(flag("ColorChangesPaused"));
+        // Effects, screens and inversion stay as they were.
+        EXPECT_TRUE(flag("UseColorEffects"));
+        EXPECT_EQ(number("ColorEffect"), 5);
+        EXPECT_TRUE(flag("UseOverlayScreen"));
+        EXPECT_TRUE(flag("UseLightnessScreen"));
+        EXPECT_TRUE(flag("UseInvertedColors"));
+        EXPECT_FALSE(window->fade_state(SWITCH).active);
+        TearDown();
+        SetUp();
+    }
+}
+
+TEST_F(Types, AChosenTypeFadesInFortyStepsFromWhereTheDisplayStands)
+{
+    start();
+    finish_fade(RETURN, &MainWindow::return_colors_timeout);
+    factory.calls.clear();
+
+    window->ovra_type_changed(6);
+    ASSERT_TRUE(window->fade_state(RETURN).active);
+    EXPECT_TRUE(writes().empty()) << "the fade writes, from its timer";
+    EXPECT_EQ(finish_fade(RETURN, &MainWindow::return_colors_timeout), 41);
+    const auto w = writes();
+    // From 3400 K and 80 % to 6500 K and 75 %: steps of 77.5 K and -0.125 %.
+    ASSERT_GE(w.size(), 40u);
+    EXPECT_EQ(w[0].temperature, 3477);
+    EXPECT_NEAR(w[0].brightness, 0.79875, 1e-5);
+    EXPECT_EQ(w[39].temperature, 6500);
+    EXPECT_NEAR(w[39].brightness, 0.75, 1e-5);
+}
+
+TEST_F(Types, TheStoredTypeFromThePageDoesNothingTheTrayReapplies)
+{
+    store_values["OvraType"] = 6;
+    start();
+    connect_page();
+    window->settings["NightTemperature"] = 2000;
+
+    window->ovra_type_changed_force(6, false);
+    EXPECT_EQ(number("NightTemperature"), 2000);
+    EXPECT_TRUE(page.isEmpty());
+
+    window->ovra_type_changed_force(6, true);
+    EXPECT_EQ(number("NightTemperature"), 6500);
+
+    window->settings["NightTemperature"] = 2000;
+    window->ovra_type_changed(6);
+    EXPECT_EQ(number("NightTemperature"), 6500);
+
+    window->ovra_type_changed_force(1, false);
+    EXPECT_EQ(number("NightTemperature"), 3400);
+    EXPECT_EQ(page, QStringList({"type_ui=6", "type_ui=6", "type_ui=1"}));
+}
+
+TEST_F(Types, HealthAfterProgrammingSwitchesInversionOff)
+{
+    start();
+    finish_all_fades();
+    window->ovra_type_changed(4);
+    finish_all_fades();
+    ASSERT_TRUE(flag("UseInvertedColors"));
+    ASSERT_TRUE(writes().back().inverted);
+
+    window->ovra_type_changed(1);
+    finish_all_fades();
+    EXPECT_FALSE(flag("UseInvertedColors"));
+    EXPECT_FALSE(writes().back().inverted);
+    EXPECT_EQ(writes().back().temperature, 3400);
+    EXPECT_EQ(number("DayTemperature"), 5000);
+    EXPECT_EQ(number("NightBrightness"), 80);
+}
+
+// ---------------------------------------------------------------- modes
+
+using Modes = Types;
+
+TEST_F(Modes, ManualShowsTheNightValuesAtNoon)
+{
+    store_values["UseManualColorSettings"] = false;
+    store_values["UseManualBrightness"] = false;
+    store_values["OvraMode"] = 1;
+    store_values["DayTemperature"] = 6000;
+    store_values["DayBrightness"] = 95;
+    store_values["NightTemperature"] = 2700;
+    store_values["NightBrightness"] = 70;
+    store_values["UseSleepLight"] = false;
+    start();
+    connect_page();
+    finish_all_fades();
+    ASSERT_EQ(writes().back().temperature, 6000) << "noon on the clock curve is day";
+
+    window->ovra_mode_changed(2);
+    EXPECT_TRUE(flag("UseManualColorSettings"));
+    EXPECT_TRUE(flag("UseManualBrightness"));
+    finish_all_fades();
+    EXPECT_EQ(writes().back().temperature, 2700);
+    EXPECT_NEAR(writes().back().brightness, 0.70, 1e-5);
+
+    window->ovra_mode_changed(1);
+    EXPECT_FALSE(flag("UseManualColorSettings"));
+    EXPECT_FALSE(flag("UseManualBrightness"));
+    finish_all_fades();
+    EXPECT_EQ(writes().back().temperature, 6000);
+    EXPECT_NEAR(writes().back().brightness, 0.95, 1e-5);
+    EXPECT_EQ(page, QStringList({"mode_ui=2", "mode_ui=1"}));
+}
+
+TEST_F(Modes, PausedFadesToNeutralAndKeepsTheManualSwitches)
+{
+    start();
+    finish_all_fades();
+    factory.calls.clear();
+
+    window->ovra_mode_changed(3);
+    EXPECT_TRUE(flag("OvraPaused"));
+    EXPECT_TRUE(flag("UseManualColorSettings"));
+    ASSERT_TRUE(window->fade_state(RESTORE).active);
+    finish_all_fades();
+    const auto w = writes();
+    ASSERT_FALSE(w.empty());
+    EXPECT_GT(w.back().temperature, 6400);
+    EXPECT_EQ(factory.calls.back().what, "restore");
+
+    // Leaving the pause by mode fades back to the values.
+    window->ovra_mode_changed(2);
+    EXPECT_FALSE(flag("OvraPaused"));
+    finish_all_fades();
+    EXPECT_EQ(writes().back().temperature, 3400);
+}
+
+TEST_F(Modes, ChangeModeCyclesOneTwoThreeOne)
+{
+    store_values["OvraMode"] = 1;
+    start();
+    connect_page();
+    window->change_mode();
+    EXPECT_EQ(number("OvraMode"), 2);
+    window->change_mode();
+    EXPECT_EQ(number("OvraMode"), 3);
+    EXPECT_TRUE(flag("OvraPaused"));
+    window->change_mode();
+    EXPECT_EQ(number("OvraMode"), 1);
+    EXPECT_FALSE(flag("OvraPaused"));
+    EXPECT_EQ(page, QStringList({"mode_ui=2", "mode_ui=3", "mode_ui=1"}));
+}
+
+TEST_F(Modes, ChangeModeFromCustomGoesToAutomatic)
+{
+    store_values["OvraMode"] = 0;
+    start();
+    window->change_mode();
+    EXPECT_EQ(number("OvraMode"), 1);
+    EXPECT_FALSE(flag("UseManualColorSettings"));
+}
+
+TEST_F(Modes, AnUnknownModeStoresOnlyItsNumber)
+{
+    start();
+    window->ovra_mode_changed(7);
+    EXPECT_EQ(number("OvraMode"), 7);
+    EXPECT_TRUE(flag("UseManualColorSettings"));
+    EXPECT_TRUE(flag("UseManualBrightness"));
+    EXPECT_FALSE(flag("OvraPaused"));
+
+    // The stored mode from the page does nothing.
+    window->settings["UseManualBrightness"] = false;
+    window->ovra_mode_changed_force(7, false);
+    EXPECT_FALSE(flag("UseManualBrightness"));
+}
+
+// ---------------------------------------------------------------- views
+
+using AdvancedView = Types;
+
+TEST_F(AdvancedView, EnteringCopiesTheShadowsAndTellsThePage)
+{
+    store_values["AdvancedNightTemperature"] = 2300;
+    store_values["AdvancedNightBrightness"] = 55;
+    store_values["AdvancedUseColorEffects"] = true;
+    store_values["AdvancedLightnessScreenXposition"] = 12;
+    store_values["ColorChangesPaused"] = true;
+    start();
+    connect_page();
+    QStringList sliders;
+    QObject::connect(window.get(), &MainWindow::set_night_temperature_slider_value,
+                     [&](int v) { sliders << QString::number(v); });
+
+    window->use_advanced_settings_changed(true, 0, 0);
+    EXPECT_TRUE(flag("AdvancedView"));
+    EXPECT_FALSE(flag("ColorChangesPaused"));
+    EXPECT_EQ(number("NightTemperature"), 2300);
+    EXPECT_EQ(number("NightBrightness"), 55);
+    EXPECT_TRUE(flag("UseColorEffects"));
+    EXPECT_EQ(number("LightnessScreenXPosition"), 12);
+    EXPECT_EQ(sliders, QStringList({"2300"}));
+    EXPECT_EQ(page, QStringList({"advanced=1"}));
+    // The view is written to the store at once.
+    EXPECT_TRUE(save_manager->store()->value("AdvancedView").toBool());
+
+    // The same view again applies again but does not echo.
+    window->use_advanced_settings_changed(true);
+    EXPECT_EQ(sliders.size(), 2);
+    EXPECT_EQ(page, QStringList({"advanced=1"}));
+}
+
+TEST_F(AdvancedView, LeavingReappliesTheTypeAndTheShadowsKeepTheUsersValues)
+{
+    store_values["OvraType"] = 6;
+    store_values["OvraMode"] = 2;
+    start();
+    connect_page();
+    connect_answering_page();
+
+    window->use_advanced_settings_changed(true, 0, 0);
+    window->night_temperature_changed(2300, 0);
+    window->night_brightness_changed(55, 0);
+    EXPECT_EQ(number("AdvancedNightTemperature"), 2300);
+    EXPECT_EQ(number("AdvancedNightBrightness"), 55);
+
+    window->use_advanced_settings_changed(false, 0, 0);
+    EXPECT_FALSE(flag("AdvancedView"));
+    EXPECT_EQ(number("NightTemperature"), 6500);
+    EXPECT_EQ(number("NightBrightness"), 75);
+    EXPECT_EQ(number("AdvancedNightTemperature"), 2300);
+    EXPECT_EQ(number("AdvancedNightBrightness"), 55);
+    EXPECT_TRUE(page.contains("type_ui=6"));
+    EXPECT_TRUE(page.contains("mode_ui=2"));
+    EXPECT_EQ(page.last(), "advanced=0");
+
+    window->use_advanced_settings_changed(true, 0, 0);
+    EXPECT_EQ(number("NightTemperature"), 2300);
+    EXPECT_EQ(number("NightBrightness"), 55);
+}
+
+TEST_F(AdvancedView, ASizeIsTakenOnlyWhenBothSidesArePositive)
+{
+    start();
+    const QSize before = window->size();
+    window->use_advanced_settings_changed(true, 700);
+    EXPECT_EQ(window->size(), before);
+    window->use_advanced_settings_changed(true, 700, 600);
+    EXPECT_EQ(window->size(), QSize(700, 600));
+}
+
+// ---------------------------------------------------------------- timer type
+
+using TimerType = Types;
+
+TEST_F(TimerType, AChangeStoresPausesForOffAndTellsThePageTwice)
+{
+    store_values["TimerType"] = 2;
+    store_values["TimerPaused"] = false;
+    start();
+    connect_page();
+
+    window->timer_type_changed(2);
+    EXPECT_TRUE(page.isEmpty());
+
+    window->timer_type_changed(1);
+    EXPECT_EQ(number("TimerType"), 1);
+    EXPECT_TRUE(flag("TimerPaused"));
+    EXPECT_TRUE(save_manager->store()->value("TimerPaused").toBool());
+
+    window->timer_type_changed(3);
+    EXPECT_FALSE(flag("TimerPaused"));
+    EXPECT_EQ(page, QStringList({"timer_type=1", "strictness=1", "timer_type=3", "strictness=3"}));
+}
+
+} // namespace
