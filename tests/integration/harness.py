@@ -61,6 +61,7 @@ def make_linear(display=None):
 # The white points of the default table for the temperatures the tests use,
 # copied from the published table (rows of 100 K: red, green, blue).
 OVRA_ROWS = {
+    0: (1.0, .00000000, .00000000),
     2700: (1.0, .67645822, .34786758),
     3400: (1.0, .76888303, .52427322),
     3500: (1.0, .77987699, .54642268),
