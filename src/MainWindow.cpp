@@ -12,6 +12,7 @@
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
 #include "settings/SaveManager.h"
+#include "settings/Settings.h"
 #include "spells/HiddenFeatures.h"
 
 namespace {
@@ -44,6 +45,7 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
     latitude = -1.0;
     longitude = -1.0;
     screen_count = 1;
+    app_settings = new Settings(this);
 
     setup_window_properties();
     restore_saved_settings();
@@ -73,9 +75,6 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
 
     if (setting_true(settings, "OptimizeUiCreation"))
         restore_settings();
-    // The restore push asks for the location once it exists; until then the
-    // request goes out here, after the stored pair was restored.
-    get_geolocation_data();
 }
 
 MainWindow::~MainWindow()
@@ -306,6 +305,7 @@ void MainWindow::restore_saved_settings()
 void MainWindow::restore_settings()
 {
     restore_saved_settings();
+    app_settings->restore();
 }
 
 void MainWindow::check_for_first_start()

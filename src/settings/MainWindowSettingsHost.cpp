@@ -1,7 +1,9 @@
 // Where the store and the restore push meet the controller. Each hook is a
 // call into MainWindow; a hook left empty is a step whose owner is not built
-// yet.
+// yet (rest timer, tray, hotkeys, unused pages, colour triggers, the page's
+// list texts).
 #include "MainWindow.h"
+#include "settings/SaveKeys.h"
 #include "settings/SettingsHost.h"
 
 SettingsHost main_window_settings_host()
@@ -14,5 +16,27 @@ SettingsHost main_window_settings_host()
     host.latitude = &main_window->latitude;
     host.longitude = &main_window->longitude;
     host.ignored_monitors = &main_window->ignored_monitors;
+    host.screen_count = [main_window] { return main_window->get_screen_count(); };
+
+    host.run_state = [main_window] {
+        RunState state;
+        state.color_changes_paused = main_window->is_color_changes_paused();
+        state.ovra_paused = main_window->is_ovra_paused();
+        // No rest timer or camera yet: their stored state stands.
+        state.timer_paused = main_window->settings[SaveKeys::IS_TIMER_PAUSED].toBool();
+        state.camera_active = main_window->settings[SaveKeys::IS_CAMERA_ACTIVE].toBool();
+        return state;
+    };
+
+    host.restore_saved_settings = [main_window] { main_window->restore_saved_settings(); };
+    host.refresh_after_restore = [main_window] {
+        if (main_window->is_connected_to_internet())
+            main_window->get_geolocation_data();
+        main_window->refresh_taskbar_button();
+        main_window->refresh_color_scheme();
+        main_window->refresh_leading_color();
+        main_window->refresh_preserve_gamma();
+        main_window->refresh_color_inversion();
+    };
     return host;
 }
