@@ -137,6 +137,7 @@ void MainWindow::load_finished()
             &MainWindow::application_state_changed);
     set_gamma_ui();
     load_finished_linux();
+    update_times_info();
     open_ovra_after_load_finished();
 }
 

@@ -248,4 +248,17 @@ TEST_F(TimesInfo, BothSignalsCarryTheSameReport)
     EXPECT_TRUE(transition[1].contains(" Night start time - 22:00:00\n"));
 }
 
+TEST_F(TimesInfo, ThePageGetsTheReportOnceItHasLoaded)
+{
+    start_in_new_york();
+    int reports = 0;
+    QObject::connect(window.get(), &MainWindow::set_transition_times_info,
+                     [&](const QString&) { ++reports; });
+    window->load_finished();
+    EXPECT_EQ(reports, 1);
+    // Only the first load counts.
+    window->load_finished();
+    EXPECT_EQ(reports, 1);
+}
+
 } // namespace
