@@ -238,11 +238,25 @@ QVariant convert(const QVariant& stored, SettingType type)
     case SettingType::Bool:
         return QVariant(stored.toBool());
     case SettingType::String:
+        // An unquoted text with commas in a hand-edited file reads back as a
+        // list; joined again it is the text that was written.
+        if (stored.metaType() == QMetaType::fromType<QStringList>())
+            return QVariant(stored.toStringList().join(QStringLiteral(", ")));
         return QVariant(stored.toString());
     case SettingType::Point:
         return QVariant(stored.toPoint());
-    case SettingType::List:
-        return QVariant(stored.toList());
+    case SettingType::List: {
+        // A list of one text reads back from the file as that text; taken
+        // as a sequence, it would fall apart into characters.
+        if (stored.metaType() == QMetaType::fromType<QString>()) {
+            const QString text = stored.toString();
+            return QVariant(text.isEmpty() ? QVariantList() : QVariantList{text});
+        }
+        QVariantList items;
+        for (const QString& item : stored.toStringList())
+            items.append(item);
+        return QVariant(items);
+    }
     }
     return stored;
 }

@@ -442,3 +442,37 @@ TEST_F(StoreTest, MissingControllerIsASoftAssertion)
     EXPECT_NE(output.find("Condition failed: REQUIRE\nExpected:\tmain_window\n"), std::string::npos);
     EXPECT_TRUE(settings.empty());
 }
+
+TEST_F(StoreTest, UnusedPagesReadAsAListOfNames)
+{
+    struct Case
+    {
+        const char* stored;
+        QStringList expected;
+    };
+    const Case cases[] = {
+        {"UnusedPages=Effects", {"Effects"}},
+        {"UnusedPages=Effects, Breaks", {"Effects", "Breaks"}},
+        {"UnusedPages=", {}},
+        {"UnusedPages=@Invalid()", {}},
+    };
+    for (const Case& c : cases) {
+        write_store(QByteArray("[General]\nSaveVersion=3\n") + c.stored + "\n");
+        open().restore_settings();
+        const QVariant pages = settings["UnusedPages"];
+        EXPECT_EQ(pages.metaType(), QMetaType::fromType<QVariantList>()) << c.stored;
+        EXPECT_EQ(pages.toStringList(), c.expected) << c.stored;
+        manager->save_settings();
+        manager->restore_settings();
+        EXPECT_EQ(settings["UnusedPages"].toStringList(), c.expected) << c.stored << " after a save";
+        close();
+    }
+}
+
+TEST_F(StoreTest, HandWrittenTextWithCommasKeepsItsText)
+{
+    write_store("[General]\nSaveVersion=3\nColorPausers=gimp, krita\nLanguage=de\n");
+    open().restore_settings();
+    EXPECT_EQ(settings["ColorPausers"].toString(), "gimp, krita");
+    EXPECT_EQ(settings["Language"].toString(), "de");
+}
