@@ -11,6 +11,7 @@ from harness import OvraTestCase, expected_tint, read_ramps
 TYPE_VALUES = {
     1: (5000, 3400, 2700, 100, 80, 75),   # Health
     2: (0, 0, 0, 100, 80, 75),            # Sleep
+    4: (5000, 3400, 2700, 100, 80, 75),   # Programming
     6: (6500, 6500, 6500, 100, 75, 65),   # Sunglasses
     8: (6500, 6500, 6500, 120, 120, 120), # Movie
 }
@@ -31,6 +32,13 @@ def store_after_type(type_number, mode_values=True):
     }
     values.update(zip(KEYS, TYPE_VALUES[type_number]))
     return values
+
+
+def inverted_ramps(size):
+    """The ramps an inverted display starts from before the tint: a straight
+    line from full down to one step above zero."""
+    channel = [int((1.0 - j / size) * 65535.0) for j in range(size)]
+    return (channel, list(channel), list(channel))
 
 
 def stored_number(text, key):
@@ -62,6 +70,17 @@ class TypesThroughTheStore(OvraTestCase):
                     self.assertEqual(stored_number(text, key), value, key)
                 # And the next run shows the same.
                 self.run_until_tinted(night_temperature, night_brightness)
+
+    def test_programming_comes_back_inverted(self):
+        values = store_after_type(4)
+        values["UseInvertedColors"] = "true"
+        self.write_config(values)
+        p = self.start()
+        size = len(self.original[0])
+        self.wait_for_ramps(expected_tint(inverted_ramps(size), 3400, 80))
+        p.send(signal.SIGTERM)
+        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(read_ramps(), self.original)
 
     def test_a_stored_type_number_alone_is_not_applied_at_start(self):
         # Movie's number with Health's values: the values decide.
