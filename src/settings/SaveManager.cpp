@@ -101,9 +101,9 @@ void SaveManager::basic_restore()
     if (host_missing(host))
         return;
     SettingsMap& settings = *host.settings;
-    for (const SettingSpec& spec : SettingsTable::basic_keys())
-        settings[spec.key] =
-            SettingsTable::convert(m_store->value(spec.key, spec.default_value), spec.type);
+    for (const SettingEntry& entry : SettingsTable::basic_keys())
+        settings[entry.key] =
+            SettingsTable::convert(m_store->value(entry.key, entry.default_value), entry.type);
 }
 
 void SaveManager::restore_settings()
@@ -123,13 +123,13 @@ void SaveManager::restore_settings(int monitor)
 
     basic_restore();
 
-    for (const MonitorSettingSpec& spec : SettingsTable::monitor_keys()) {
-        const QString key = spec.key + suffix;
-        settings[key] = m_store->value(key, spec.default_value).toInt();
+    for (const MonitorSettingEntry& entry : SettingsTable::monitor_keys()) {
+        const QString key = entry.key + suffix;
+        settings[key] = m_store->value(key, entry.default_value).toInt();
     }
-    for (const SettingSpec& spec : SettingsTable::pass_keys())
-        settings[spec.key] =
-            SettingsTable::convert(m_store->value(spec.key, spec.default_value), spec.type);
+    for (const SettingEntry& entry : SettingsTable::pass_keys())
+        settings[entry.key] =
+            SettingsTable::convert(m_store->value(entry.key, entry.default_value), entry.type);
 
     validate_work_time(settings);
     validate_rest_time(settings);
@@ -171,26 +171,26 @@ void SaveManager::validate_strictness(SettingsMap& settings)
 void SaveManager::validate_temperature(SettingsMap& settings, int monitor)
 {
     const QString suffix = SettingsTable::monitor_suffix(monitor);
-    for (const MonitorSettingSpec& spec : SettingsTable::monitor_keys()) {
-        if (spec.maximum != 10000)
+    for (const MonitorSettingEntry& entry : SettingsTable::monitor_keys()) {
+        if (entry.maximum != 10000)
             continue;
-        const QString key = spec.key + suffix;
+        const QString key = entry.key + suffix;
         const int value = lookup(settings, key).toInt();
-        if (value < spec.minimum || value > spec.maximum)
-            settings[key] = spec.reset_value;
+        if (value < entry.minimum || value > entry.maximum)
+            settings[key] = entry.reset_value;
     }
 }
 
 void SaveManager::validate_brightness(SettingsMap& settings, int monitor)
 {
     const QString suffix = SettingsTable::monitor_suffix(monitor);
-    for (const MonitorSettingSpec& spec : SettingsTable::monitor_keys()) {
-        if (spec.maximum == 10000)
+    for (const MonitorSettingEntry& entry : SettingsTable::monitor_keys()) {
+        if (entry.maximum == 10000)
             continue;
-        const QString key = spec.key + suffix;
+        const QString key = entry.key + suffix;
         const int value = lookup(settings, key).toInt();
-        if (value < spec.minimum || value > spec.maximum)
-            settings[key] = spec.reset_value;
+        if (value < entry.minimum || value > entry.maximum)
+            settings[key] = entry.reset_value;
     }
 }
 
@@ -228,11 +228,11 @@ void SaveManager::save_settings(int monitor)
     if (host.request_list_texts)
         host.request_list_texts();
 
-    for (const SettingSpec& spec : SettingsTable::basic_keys())
-        write_from_map(settings, spec.key, spec.type);
+    for (const SettingEntry& entry : SettingsTable::basic_keys())
+        write_from_map(settings, entry.key, entry.type);
 
-    for (const MonitorSettingSpec& spec : SettingsTable::monitor_keys()) {
-        const QString key = spec.key + suffix;
+    for (const MonitorSettingEntry& entry : SettingsTable::monitor_keys()) {
+        const QString key = entry.key + suffix;
         int value = lookup(settings, key).toInt();
         if (key == SaveKeys::DAY_TEMPERATURE + suffix)
             value = day_temperature;
@@ -241,9 +241,9 @@ void SaveManager::save_settings(int monitor)
         m_store->setValue(key, value);
     }
 
-    for (const SettingSpec& spec : SettingsTable::pass_keys())
-        if (spec.saved)
-            write_from_map(settings, spec.key, spec.type);
+    for (const SettingEntry& entry : SettingsTable::pass_keys())
+        if (entry.saved)
+            write_from_map(settings, entry.key, entry.type);
 
     save_location_data(*host.latitude, *host.longitude);
     save_ignored_monitors();

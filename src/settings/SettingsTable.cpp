@@ -9,28 +9,28 @@ namespace SettingsTable {
 
 namespace {
 
-SettingSpec integer(const char* key, int value)
+SettingEntry integer(const char* key, int value)
 {
     return {key, SettingType::Int, QVariant(value), true};
 }
 
-SettingSpec boolean(const char* key, bool value)
+SettingEntry boolean(const char* key, bool value)
 {
     return {key, SettingType::Bool, QVariant(value), true};
 }
 
-SettingSpec text(const char* key, const char* value)
+SettingEntry text(const char* key, const char* value)
 {
     return {key, SettingType::String, QVariant(QString::fromUtf8(value)), true};
 }
 
-SettingSpec not_saved(SettingSpec spec)
+SettingEntry not_saved(SettingEntry entry)
 {
-    spec.saved = false;
-    return spec;
+    entry.saved = false;
+    return entry;
 }
 
-std::vector<SettingSpec> make_pass_keys()
+std::vector<SettingEntry> make_pass_keys()
 {
     using namespace SaveKeys;
     return {
@@ -186,9 +186,9 @@ std::vector<SettingSpec> make_pass_keys()
 
 } // namespace
 
-const std::vector<MonitorSettingSpec>& monitor_keys()
+const std::vector<MonitorSettingEntry>& monitor_keys()
 {
-    static const std::vector<MonitorSettingSpec> keys = {
+    static const std::vector<MonitorSettingEntry> keys = {
         {SaveKeys::DAY_TEMPERATURE, 5000, 6000, 0, 10000},
         {SaveKeys::NIGHT_TEMPERATURE, 3400, 4400, 0, 10000},
         {SaveKeys::SLEEP_LIGHT, 2700, 3700, 0, 10000},
@@ -199,9 +199,9 @@ const std::vector<MonitorSettingSpec>& monitor_keys()
     return keys;
 }
 
-const std::vector<SettingSpec>& basic_keys()
+const std::vector<SettingEntry>& basic_keys()
 {
-    static const std::vector<SettingSpec> keys = {
+    static const std::vector<SettingEntry> keys = {
         boolean(SaveKeys::IS_FIRST_START, true),
         text(SaveKeys::LANGUAGE, Defines::DEFAULT_LANGUAGE),
         integer(SaveKeys::OVRA_MODE, 1),
@@ -210,9 +210,9 @@ const std::vector<SettingSpec>& basic_keys()
     return keys;
 }
 
-const std::vector<SettingSpec>& pass_keys()
+const std::vector<SettingEntry>& pass_keys()
 {
-    static const std::vector<SettingSpec> keys = make_pass_keys();
+    static const std::vector<SettingEntry> keys = make_pass_keys();
     return keys;
 }
 

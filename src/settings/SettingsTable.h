@@ -9,7 +9,7 @@
 // How each stored value is read back, and what a store without it yields.
 enum class SettingType { Int, Bool, String, Point, List };
 
-struct SettingSpec
+struct SettingEntry
 {
     const char* key;
     SettingType type;
@@ -20,7 +20,7 @@ struct SettingSpec
 };
 
 // One value that exists for the whole display and once per monitor.
-struct MonitorSettingSpec
+struct MonitorSettingEntry
 {
     const char* key;
     int default_value;
@@ -34,14 +34,14 @@ namespace SettingsTable {
 
 // DayTemperature, NightTemperature, SleepLight, DayBrightness,
 // NightBrightness, SleepBrightness.
-const std::vector<MonitorSettingSpec>& monitor_keys();
+const std::vector<MonitorSettingEntry>& monitor_keys();
 
 // IsFirstStart, Language, OvraMode, OvraType: read by basic_restore.
-const std::vector<SettingSpec>& basic_keys();
+const std::vector<SettingEntry>& basic_keys();
 
 // Every other key that a pass reads, in the order the save pass writes them:
 // UiScale first, the hotkeys near the end, the Advanced keys last.
-const std::vector<SettingSpec>& pass_keys();
+const std::vector<SettingEntry>& pass_keys();
 
 // The fourteen hotkey keys in the order of the hotkey table.
 const QStringList& hotkey_keys();

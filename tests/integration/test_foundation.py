@@ -41,7 +41,7 @@ class TintAndRestore(OvraTestCase):
                 p = self.start()
                 self.wait_for_ramps(self.tinted())
                 p.send(sig)
-                self.assertEqual(p.wait(timeout=5), 0)
+                self.assertEqual(p.wait(timeout=15), 0)
                 self.assertEqual(read_ramps(), self.original)
 
     def test_closing_the_window_without_tray_quits_and_restores(self):
@@ -53,7 +53,7 @@ class TintAndRestore(OvraTestCase):
         self.assertTrue(window, "the settings window was never created")
         closer = os.path.join(os.path.dirname(os.environ["OVRA_RAMPS"]), "ovra-close-window")
         subprocess.run([closer, window[0]], check=True, timeout=10)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         self.assertIn("Tray icon is not visible", p.stdout())
         self.assertEqual(read_ramps(), self.original)
 
@@ -70,7 +70,7 @@ class TintAndRestore(OvraTestCase):
         time.sleep(1.5)
         self.wait_for_ramps(self.tinted())
         q.send(signal.SIGTERM)
-        self.assertEqual(q.wait(timeout=5), 0)
+        self.assertEqual(q.wait(timeout=15), 0)
         self.assertEqual(read_ramps(), self.original)
 
 
