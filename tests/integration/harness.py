@@ -141,7 +141,7 @@ class OvraProcess:
         if self.alive():
             self.proc.send_signal(signal.SIGTERM)
             try:
-                self.proc.wait(timeout=5)
+                self.proc.wait(timeout=15)
             except subprocess.TimeoutExpired:
                 self.proc.kill()
                 self.proc.wait()

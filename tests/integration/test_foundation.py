@@ -85,7 +85,7 @@ class SingleInstance(OvraTestCase):
         self.wait_for_tint()
         second = self.launch("pause")
         self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: "pause\n" in first.stdout(), timeout=5),
+        self.assertTrue(wait_for(lambda: "pause\n" in first.stdout(), timeout=15),
                         "first instance did not print the words: " + first.stdout())
         self.assertTrue(first.alive())
 
@@ -95,7 +95,7 @@ class SingleInstance(OvraTestCase):
         second = self.launch("ovra:some%20words-here")
         self.assertEqual(second.returncode, 0)
         self.assertIn("some words here: first_argument", second.stdout)
-        self.assertTrue(wait_for(lambda: "some words here\n" in first.stdout(), timeout=5))
+        self.assertTrue(wait_for(lambda: "some words here\n" in first.stdout(), timeout=15))
 
     def test_stale_socket_does_not_stop_a_new_instance(self):
         # A socket file whose owner died: nobody listens behind it.
@@ -109,7 +109,7 @@ class SingleInstance(OvraTestCase):
         self.assertTrue(p.alive())
         second = self.launch("hello")
         self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: "hello\n" in p.stdout(), timeout=5))
+        self.assertTrue(wait_for(lambda: "hello\n" in p.stdout(), timeout=15))
 
     def test_ten_launches_at_once_leave_one_instance(self):
         procs = [self.start() for _ in range(10)]

@@ -128,7 +128,7 @@ class LocationTestCase(OvraTestCase):
         tinted = expected_tint(self.original, 3400, 80)
         self.wait_for_ramps(tinted)
         make_linear()
-        self.wait_for_ramps(tinted, timeout=5)
+        self.wait_for_ramps(tinted, timeout=15)
         self.assertTrue(process.alive())
 
 
@@ -193,7 +193,7 @@ class AutomaticLocation(LocationTestCase):
         self.assertEqual(service.paths, [])
         self.assertTrue(p.alive())
         p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         self.wait_for_location(10.5, 20.25, timeout=1)
 
 
@@ -239,7 +239,7 @@ class CurveFiles(LocationTestCase):
 
         hour = time.localtime().tm_hour
         p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         after = time.localtime().tm_hour
         stored = self.stored()
         self.assertIn(int(stored.get("NightBrightness", -1)),
@@ -255,5 +255,5 @@ class CurveFiles(LocationTestCase):
         p = self.start_with_service(closed_port_base(), cwd=work)
         self.wait_for_ramps(expected_tint(self.original, 3400, 80))
         p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         self.assertEqual(int(self.stored().get("NightBrightness", -1)), 80)

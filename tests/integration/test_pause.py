@@ -49,12 +49,12 @@ class PauseBySignal(OvraTestCase):
             for index in (64, 128, 255):
                 self.assertTrue(monotonic_towards(samples, channel, index, True),
                                 "channel %d entry %d went back and forth" % (channel, index))
-        self.assertTrue(wait_for(lambda: read_ramps() == self.original, timeout=3),
+        self.assertTrue(wait_for(lambda: read_ramps() == self.original, timeout=10),
                         "the pause did not end on the saved ramps")
 
         # The pause is kept in the store for the next start.
         self.assertTrue(wait_for(lambda: "OvraPaused=true" in open(self.config_file()).read(),
-                                 timeout=3))
+                                 timeout=10))
 
         p.send(signal.SIGUSR1)
         samples = sample_for(1.6)
@@ -62,5 +62,5 @@ class PauseBySignal(OvraTestCase):
             for index in (64, 128, 255):
                 self.assertTrue(monotonic_towards(samples, channel, index, False),
                                 "channel %d entry %d went back and forth" % (channel, index))
-        self.wait_for_ramps(tinted, timeout=3)
+        self.wait_for_ramps(tinted, timeout=10)
         self.assertTrue(p.alive())

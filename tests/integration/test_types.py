@@ -52,7 +52,7 @@ class TypesThroughTheStore(OvraTestCase):
         p = self.start()
         self.wait_for_ramps(expected_tint(self.original, temperature, brightness))
         p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         self.assertEqual(read_ramps(), self.original)
 
     def test_switching_type_between_runs_shows_each_types_night_values(self):
@@ -79,7 +79,7 @@ class TypesThroughTheStore(OvraTestCase):
         size = len(self.original[0])
         self.wait_for_ramps(expected_tint(inverted_ramps(size), 3400, 80))
         p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=5), 0)
+        self.assertEqual(p.wait(timeout=15), 0)
         self.assertEqual(read_ramps(), self.original)
 
     def test_a_stored_type_number_alone_is_not_applied_at_start(self):
