@@ -43,6 +43,9 @@ struct FadeRecord
     bool advance();
     // Stops the timer, lowers the flag and clears the steps.
     void stop();
+    // Ends this fade so that another can turn round where it stood: the
+    // values it had reached replace the given start when it was running.
+    void take_over(float& from_temperature, float& from_brightness);
 };
 
 // The central controller and the settings window. It owns the settings map

@@ -46,6 +46,17 @@ void FadeRecord::stop()
     brightness_step = 0.0f;
 }
 
+void FadeRecord::take_over(float& from_temperature, float& from_brightness)
+{
+    if (timer)
+        timer->stop();
+    if (active) {
+        from_temperature = temperature;
+        from_brightness = brightness;
+    }
+    stop();
+}
+
 void FadeRecord::begin(float from_temperature, float from_brightness, float to_temperature,
                        float to_brightness)
 {
@@ -167,12 +178,7 @@ void MainWindow::restore_colors()
     const int ticks = pause_fade_ticks();
     float temperature = static_cast<float>(current_temperature);
     float brightness = static_cast<float>(current_brightness);
-    return_fade.timer->stop();
-    if (return_fade.active) {
-        temperature = return_fade.temperature;
-        brightness = return_fade.brightness;
-    }
-    return_fade.stop();
+    return_fade.take_over(temperature, brightness);
     if (ticks <= 0) {
         // No time to fade in: end where the fade would end.
         restore_fade.stop();
@@ -206,12 +212,7 @@ void MainWindow::return_colors()
     const int ticks = pause_fade_ticks();
     float temperature = NEUTRAL_TEMPERATURE;
     float brightness = NEUTRAL_BRIGHTNESS;
-    restore_fade.timer->stop();
-    if (restore_fade.active) {
-        temperature = restore_fade.temperature;
-        brightness = restore_fade.brightness;
-    }
-    restore_fade.stop();
+    restore_fade.take_over(temperature, brightness);
     if (ticks <= 0) {
         return_fade.stop();
         update_gamma();
@@ -246,12 +247,7 @@ void MainWindow::move_to(int temperature, int brightness)
     }
     float from_temperature = static_cast<float>(current_temperature);
     float from_brightness = static_cast<float>(current_brightness);
-    restore_fade.timer->stop();
-    if (restore_fade.active) {
-        from_temperature = restore_fade.temperature;
-        from_brightness = restore_fade.brightness;
-    }
-    restore_fade.stop();
+    restore_fade.take_over(from_temperature, from_brightness);
     return_fade.begin(from_temperature, from_brightness, static_cast<float>(temperature),
                       static_cast<float>(brightness));
     return_fade.temperature_step = (temperature - from_temperature) / MOVE_TICKS;
@@ -277,12 +273,7 @@ void MainWindow::switch_state()
     }
     float temperature = static_cast<float>(current_temperature);
     float brightness = static_cast<float>(current_brightness);
-    switch_return_fade.timer->stop();
-    if (switch_return_fade.active) {
-        temperature = switch_return_fade.temperature;
-        brightness = switch_return_fade.brightness;
-    }
-    switch_return_fade.stop();
+    switch_return_fade.take_over(temperature, brightness);
     start_switch_fade(temperature, brightness);
 }
 
@@ -292,11 +283,8 @@ void MainWindow::switch_state_timeout()
         write_fade_values(switch_fade);
         return;
     }
-    switch_fade.timer->stop();
+    switch_fade.stop();
     switch_return_fade.active = true;
-    switch_fade.active = false;
-    switch_fade.temperature_step = 0.0f;
-    switch_fade.brightness_step = 0.0f;
     if (gamma)
         gamma->set_use_inverted_gamma(inversion_target);
     refresh_color_effects();
@@ -307,12 +295,7 @@ void MainWindow::switch_state_return()
 {
     float temperature = DARK_TEMPERATURE;
     float brightness = DARK_BRIGHTNESS;
-    switch_fade.timer->stop();
-    if (switch_fade.active) {
-        temperature = switch_fade.temperature;
-        brightness = switch_fade.brightness;
-    }
-    switch_fade.stop();
+    switch_fade.take_over(temperature, brightness);
     if (pending_restore_fade) {
         switch_return_fade.begin(temperature, brightness, NEUTRAL_TEMPERATURE, NEUTRAL_BRIGHTNESS);
         switch_return_fade.temperature_step = (NEUTRAL_TEMPERATURE - DARK_TEMPERATURE) / SWITCH_TICKS;
@@ -355,12 +338,7 @@ void MainWindow::restore_colors_with_switch_state()
         gamma->set_use_inverted_gamma(true);
     float temperature = static_cast<float>(current_temperature);
     float brightness = static_cast<float>(current_brightness);
-    switch_return_fade.timer->stop();
-    if (switch_return_fade.active) {
-        temperature = switch_return_fade.temperature;
-        brightness = switch_return_fade.brightness;
-    }
-    switch_return_fade.stop();
+    switch_return_fade.take_over(temperature, brightness);
     start_switch_fade(temperature, brightness);
 }
 
@@ -378,12 +356,7 @@ void MainWindow::return_colors_with_switch_state()
         gamma->set_use_inverted_gamma(false);
     float temperature = NEUTRAL_TEMPERATURE;
     float brightness = NEUTRAL_BRIGHTNESS;
-    switch_return_fade.timer->stop();
-    if (switch_return_fade.active) {
-        temperature = switch_return_fade.temperature;
-        brightness = switch_return_fade.brightness;
-    }
-    switch_return_fade.stop();
+    switch_return_fade.take_over(temperature, brightness);
     start_switch_fade(temperature, brightness);
 }
 
