@@ -154,6 +154,13 @@ public slots:
     void refresh_color_inversion();
     bool use_inverted_colors();
 
+    // Change handlers of the colour engine's own settings
+    // (MainWindowColorSlots.cpp).
+    void color_scheme_changed(int value);
+    void leading_color_changed(int value);
+    void preserve_gamma_changed(bool value);
+    void pause_transition_duration_changed(int value);
+
     // Display backend housekeeping.
     void create_new_gamma();
     void reset_gamma();
@@ -382,6 +389,11 @@ signals:
     void set_lightness_screen_radius_slider_value(int value);
     void set_lightness_screen_x_position_slider_value(int value);
     void set_lightness_screen_y_position_slider_value(int value);
+
+    void set_color_scheme_dropdown_value(int value);
+    void set_leading_color_dropdown_value(int value);
+    void set_preserve_gamma(bool value);
+    void set_pause_transition_duration_value(int value);
 
     void set_transition_times_info(QString value);
     void set_moon_phases_info(QString value);

@@ -52,6 +52,11 @@ public:
         calls->push_back({"restore", 0, 0.0f, 0, use_inverted_gamma});
         return 0;
     }
+    int reset() override
+    {
+        calls->push_back({"reset", 0, 0.0f, 0, use_inverted_gamma});
+        return 0;
+    }
     int get_screen_count() override { return 2; }
     int set_temperature(const ColorSettings* s, std::vector<int>, int monitor) override
     {
