@@ -89,6 +89,20 @@ class SingleInstance(OvraTestCase):
                         "first instance did not print the words: " + first.stdout())
         self.assertTrue(first.alive())
 
+    def visible_windows(self, p):
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(p.pid),
+                               "--name", "^Ovra$"], capture_output=True, text=True).stdout.split()
+
+    def test_second_launch_without_words_opens_the_window(self):
+        first = self.start()
+        self.wait_for_tint()
+        self.assertFalse(self.visible_windows(first), "the window opened by itself at start")
+        second = self.launch()
+        self.assertEqual(second.returncode, 0)
+        self.assertTrue(wait_for(lambda: self.visible_windows(first), timeout=15),
+                        "the running instance did not open its window")
+        self.assertTrue(first.alive())
+
     def test_link_form_of_the_first_word_is_rewritten(self):
         first = self.start()
         self.wait_for_tint()
