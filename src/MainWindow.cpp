@@ -11,6 +11,7 @@
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
+#include "services/Updater.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
 #include "spells/HiddenFeatures.h"
@@ -244,7 +245,12 @@ void MainWindow::save_and_close_clicked()
 {
     OVRA_HARD_ASSERT(SaveManager::s_instance, __LINE__);
     close_window();
+    // A user who has just turned update checks on hears about a new version
+    // now, not after the next start.
+    const bool checked_before = SaveManager::s_instance->check_for_updates();
     SaveManager::s_instance->save_settings();
+    if (!checked_before && SaveManager::s_instance->check_for_updates() && Updater::s_instance)
+        Updater::s_instance->check_for_new_version();
 }
 
 void MainWindow::close_window()
