@@ -130,6 +130,49 @@ TEST(ColorTemperatureTables, CurvesFallMonotonicallyAwayFromNeutral)
     }
 }
 
+TEST(ColorTemperatureTables, EveryValueMatchesThePublishedTables)
+{
+    // Per column: the plain sum and the sum weighted by row number (1, 2,
+    // ...), both in double over the float values in row order. They were
+    // worked out from the published tables, apart from this code, so that
+    // any changed digit or swapped row shows; the spot checks above only
+    // cover a few rows.
+    struct Sums
+    {
+        const float* values;
+        int rows;
+        double sum[3];
+        double weighted[3];
+    };
+    const Sums expected[] = {
+        {ovra_color_temperature, OVRA_COLOR_TEMPERATURE_ROWS,
+         {198.95427191257477, 193.81855268590152, 215.78754325211048},
+         {22616.527905225754, 25369.066220354289, 31116.299925401807}},
+        {magmus_color_temperature, MAGMUS_COLOR_TEMPERATURE_ROWS,
+         {92.008899986743927, 62.564800080377609, 56.018800042103976},
+         {4357.1980990171432, 3973.6996070453897, 4042.492701865267}},
+        {olaf_color_temperature, OLAF_COLOR_TEMPERATURE_ROWS,
+         {94.759200036525726, 78.377600077539682, 69.743000106886029},
+         {4597.0783030390739, 4461.8687018305063, 4460.3529026657343}},
+        {groot_color_temperature, GROOT_COLOR_TEMPERATURE_ROWS,
+         {198.95427191257477, 217.20950424671173, 228.60904843918979},
+         {22616.527905225754, 25785.273792266846, 31461.792428087443}},
+    };
+    for (const Sums& e : expected) {
+        for (int c = 0; c < 3; ++c) {
+            double sum = 0.0;
+            double weighted = 0.0;
+            for (int n = 0; n < e.rows; ++n) {
+                const double v = e.values[3 * n + c];
+                sum += v;
+                weighted += (n + 1) * v;
+            }
+            EXPECT_DOUBLE_EQ(sum, e.sum[c]) << "table with " << e.rows << " rows, column " << c;
+            EXPECT_DOUBLE_EQ(weighted, e.weighted[c]) << "table with " << e.rows << " rows, column " << c;
+        }
+    }
+}
+
 TEST(ColorTemp, FirstSeriesWins)
 {
     ColorTemp table;
