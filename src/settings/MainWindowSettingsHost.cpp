@@ -1,7 +1,8 @@
 // Where the store and the restore push meet the controller. Each hook is a
 // call into MainWindow; a hook left empty is a step whose owner is not built
-// yet (rest timer, tray, hotkeys, unused pages, colour triggers, the page's
-// list texts).
+// yet (tray, hotkeys, unused pages, colour triggers, the page's list texts).
+// reset_timer is wired although its body waits for the break timer, so that
+// every restore pass hands the break lengths over once that timer exists.
 #include "MainWindow.h"
 #include "settings/SaveKeys.h"
 #include "settings/SettingsHost.h"
@@ -17,6 +18,7 @@ SettingsHost main_window_settings_host()
     host.longitude = &main_window->longitude;
     host.ignored_monitors = &main_window->ignored_monitors;
     host.screen_count = [main_window] { return main_window->get_screen_count(); };
+    host.reset_timer = [main_window] { main_window->reset_timer(); };
 
     host.run_state = [main_window] {
         RunState state;
