@@ -82,6 +82,37 @@ TEST(MoonPhase, OneCycleTakesAboutTwentyNineAndAHalfDays)
     EXPECT_NEAR(moon.moon_phase(full - 7.4 * 86400), 0.5, 0.1);
 }
 
+TEST(MoonPhase, FollowsTheLowPrecisionTheoryExactly)
+{
+    // Reference values from a separate implementation of the same theory
+    // (Python, double precision). The ephemeris comparisons above allow
+    // a few hundredths, which would hide a slip in one of the small
+    // correction terms; these do not.
+    Moon moon;
+    const double phases[][2] = {
+        {0.0, 0.49346172417872053},
+        {946684800.0, 0.27143010217549945},
+        {1741935300.0, 0.9999999976802374},
+        {1743245880.0, 6.6573111467960189e-09},
+        {1767225600.5, 0.91543591764282328},
+        {-315619200.0, 0.069507667069347412},
+    };
+    for (const auto& p : phases)
+        EXPECT_NEAR(moon.moon_phase(p[0]), p[1], 1e-12) << p[0];
+
+    // Days after the 1980 epoch: the sun's longitude, then the moon's for it.
+    const double positions[][3] = {
+        {0.00, 278.70514029138985, 69.850582391220598},
+        {16500.25, 343.93176831388246, 41.896064248138941},
+        {-7300.75, 282.8780815526386, 354.84367860146483},
+    };
+    for (const auto& p : positions) {
+        const double sun = moon.sun_position(p[0]);
+        EXPECT_NEAR(sun, p[1], 1e-10) << p[0];
+        EXPECT_NEAR(moon.moon_position(p[0], sun), p[2], 1e-10) << p[0];
+    }
+}
+
 TEST(MoonPhase, DatedFormGivesTheSameFractionAndTheSegment)
 {
     Moon moon;

@@ -217,6 +217,41 @@ TEST(SunV2, SunriseAndSunsetAgreeWithEphem)
     EXPECT_GT(checked, 250);
 }
 
+TEST(SunV2, FollowsTheSunriseEquationToTheMillisecond)
+{
+    // Reference values from a separate implementation of the same closed-form
+    // equation (Python, double precision, the zone rules of tzdata). The
+    // ephemeris comparison above allows minutes, which would hide a slip in
+    // one of the small constants; here every millisecond counts. The clock
+    // times cover a day change in UTC either way and a day of a clock change.
+    struct Case
+    {
+        double latitude;
+        double longitude;
+        const char* zone;
+        int local[5]; // year, month, day, hour, minute of "now"
+        qint64 rise_ms;
+        qint64 set_ms;
+    };
+    const Case cases[] = {
+        {52.52, 13.405, "Europe/Berlin", {2025, 6, 21, 9, 30}, Q_INT64_C(1750473862410), Q_INT64_C(1750534468127)},
+        {52.52, 13.405, "Europe/Berlin", {2025, 12, 3, 20, 15}, Q_INT64_C(1764745123012), Q_INT64_C(1764773797596)},
+        {40.7128, -74.006, "America/New_York", {2024, 3, 10, 23, 0}, Q_INT64_C(1710069394128), Q_INT64_C(1710111517460)},
+        {0.3476, 32.5825, "Africa/Kampala", {2025, 9, 23, 0, 30}, Q_INT64_C(1758598825815), Q_INT64_C(1758642426580)},
+        {-33.8688, 151.2093, "Australia/Sydney", {2025, 1, 15, 6, 0}, Q_INT64_C(1736881189209), Q_INT64_C(1736932229928)},
+        {64.1466, -21.9426, "Atlantic/Reykjavik", {2025, 4, 2, 12, 0}, Q_INT64_C(1743576400702), Q_INT64_C(1743625130180)},
+        {35.6762, 139.6503, "Asia/Tokyo", {2026, 8, 8, 3, 45}, Q_INT64_C(1786132488969), Q_INT64_C(1786182137481)},
+    };
+    ScopedClock clock;
+    for (const Case& c : cases) {
+        ScopedTimeZone zone(c.zone);
+        clock.at_local(c.local[0], c.local[1], c.local[2], c.local[3], c.local[4]);
+        Sun sun(c.latitude, c.longitude, 0);
+        EXPECT_EQ(qint64(sun.calcSunriseV2()), c.rise_ms) << c.zone << " " << c.local[0] << "-" << c.local[1];
+        EXPECT_EQ(qint64(sun.calcSunsetV2()), c.set_ms) << c.zone << " " << c.local[0] << "-" << c.local[1];
+    }
+}
+
 TEST(SunV2, BothEventsLieOnTodaysLocalDate)
 {
     // New York at 23:30 in winter is 04:30 UTC of the next day: the events
@@ -296,6 +331,39 @@ TEST(SunV2, GetTimesHasNoSunriseInPolarNight)
 }
 
 // --- The older calculator ------------------------------------------------
+
+TEST(SunOlder, FollowsTheSolarCalculatorFormulas)
+{
+    // Reference values from a separate implementation of the same formulas
+    // (Python, double precision): sunrise and sunset in minutes from
+    // midnight UTC, then the day start and end with the zone offset. The
+    // longitude keeps its sign, so east of Greenwich the times are not those
+    // of the real sun; only the arithmetic is checked here.
+    struct Case
+    {
+        double latitude;
+        double longitude;
+        double seconds;
+        int zone_hours;
+        double rise_utc;
+        double set_utc;
+        double day_start;
+        double day_end;
+    };
+    const Case cases[] = {
+        {52.52, 13.405, 1750500000.0, 2, 270.48513687093691, 1280.6699031857765, 390.48513687093691, 1400.6699031857765},
+        {-33.87, 151.21, 1736900000.0, 11, 910.21015160862032, 1758.3954463549171, 978.39544635491711, 1570.2101516086204},
+        {40.71, -74.01, 1710100000.0, -4, 82.153565526856212, 786.32749619190463, 546.32749619190463, 1282.1535655268563},
+    };
+    for (const Case& c : cases) {
+        Sun sun(c.latitude, c.longitude, c.zone_hours);
+        sun.setCurrentTime(c.seconds);
+        EXPECT_NEAR(sun.calcSunriseUTC(), c.rise_utc, 1e-9) << c.latitude;
+        EXPECT_NEAR(sun.calcSunsetUTC(), c.set_utc, 1e-9) << c.latitude;
+        EXPECT_NEAR(sun.calc_day_start_time(), c.day_start, 1e-9) << c.latitude;
+        EXPECT_NEAR(sun.calc_day_end_time(), c.day_end, 1e-9) << c.latitude;
+    }
+}
 
 TEST(SunOlder, JulianDayOfKnownDates)
 {
