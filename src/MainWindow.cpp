@@ -233,8 +233,9 @@ bool MainWindow::nativeEvent(const QByteArray&, void*, qintptr*)
 
 void MainWindow::close_clicked()
 {
-    OVRA_HARD_ASSERT(SaveManager::s_instance, __LINE__);
-    if (SaveManager::s_instance->auto_save_settings())
+    SaveManager* save_manager = SaveManager::s_instance;
+    OVRA_HARD_ASSERT(save_manager, "MainWindow", __LINE__);
+    if (save_manager->auto_save_settings())
         save_and_close_clicked();
     else
         close_window();
@@ -243,13 +244,14 @@ void MainWindow::close_clicked()
 
 void MainWindow::save_and_close_clicked()
 {
-    OVRA_HARD_ASSERT(SaveManager::s_instance, __LINE__);
+    SaveManager* saveManager = SaveManager::s_instance;
+    OVRA_HARD_ASSERT(saveManager, "MainWindow", __LINE__);
     close_window();
     // A user who has just turned update checks on hears about a new version
     // now, not after the next start.
-    const bool checked_before = SaveManager::s_instance->check_for_updates();
-    SaveManager::s_instance->save_settings();
-    if (!checked_before && SaveManager::s_instance->check_for_updates() && Updater::s_instance)
+    const bool checked_before = saveManager->check_for_updates();
+    saveManager->save_settings();
+    if (!checked_before && saveManager->check_for_updates() && Updater::s_instance)
         Updater::s_instance->check_for_new_version();
 }
 

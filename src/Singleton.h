@@ -5,13 +5,13 @@
 
 // Hard assertion for the process-wide objects: a second instance, or a
 // destruction of one that never registered, is a programming error.
-#define OVRA_HARD_ASSERT(cond, line)                                                   \
-    do {                                                                               \
-        if (!(cond)) {                                                                 \
-            std::fprintf(stderr, "Assertion failed: %s, file Singleton, line %d\n", #cond, \
-                         line);                                                        \
-            std::abort();                                                              \
-        }                                                                              \
+#define OVRA_HARD_ASSERT(cond, source, line)                                             \
+    do {                                                                                 \
+        if (!(cond)) {                                                                   \
+            std::fprintf(stderr, "Assertion failed: %s, file %s, line %d\n", #cond, source, \
+                         line);                                                          \
+            std::abort();                                                                \
+        }                                                                                \
     } while (0)
 
 template <class S>
@@ -22,12 +22,12 @@ public:
 
     Singleton()
     {
-        OVRA_HARD_ASSERT(!s_instance, 18);
+        OVRA_HARD_ASSERT(!s_instance, "Singleton", 18);
         s_instance = static_cast<S*>(this);
     }
     virtual ~Singleton()
     {
-        OVRA_HARD_ASSERT(s_instance, 24);
+        OVRA_HARD_ASSERT(s_instance, "Singleton", 24);
         s_instance = nullptr;
     }
     Singleton(const Singleton&) = delete;

@@ -225,6 +225,20 @@ TEST_F(PauseFades, DayIsSixToEighteenOnTheClock)
     EXPECT_FALSE(window->is_day());
 }
 
+using ClosingDeathTest = PauseFades;
+
+// Closing from the window needs the store; without it the program stops
+// and says which object was missing.
+TEST_F(ClosingDeathTest, WithoutTheStoreAborts)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    start_settled();
+    delete save_manager;
+    save_manager = nullptr;
+    EXPECT_DEATH(window->close_clicked(), "Assertion failed: save_manager, file MainWindow");
+    EXPECT_DEATH(window->save_and_close_clicked(), "Assertion failed: saveManager, file MainWindow");
+}
+
 TEST(LaunchWords, AreRewrittenAsALinkWouldSendThem)
 {
     EXPECT_EQ(SingleApplication::rewrite_arguments({"/usr/bin/ovra", "ovra:some%20words-here"}),
