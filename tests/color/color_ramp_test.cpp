@@ -101,6 +101,73 @@ TEST(ColorRamp, NeutralPointLeavesRampsAlone)
     EXPECT_LT(changed, 65536 / 2);
 }
 
+TEST(ColorRamp, WhitePointKeepsItsFloatSteps)
+{
+    // The fraction of the row is held as a float and the second row's share
+    // is a float product, the rest is double: the results below, worked out
+    // apart from this code with that rounding, differ in the last bit from
+    // an all-double computation.
+    struct Case
+    {
+        int temperature;
+        int scheme;
+        float w[3];
+    };
+    const Case cases[] = {
+        {1017, 1, {1.0f, 0.194189772f, 0.0f}},
+        {5389, 2, {1.0f, 0.875914037f, 0.726606011f}},
+        {2345, 3, {1.0f, 0.687265038f, 0.395480007f}},
+        {7777, 4, {0.893026829f, 0.932574928f, 1.0f}},
+        {12345, 1, {0.730948508f, 0.825022757f, 1.0f}},
+    };
+    for (const Case& c : cases) {
+        ColorRamp ramp;
+        ramp.set_color_scheme(c.scheme);
+        const std::vector<float> w = white_point(ramp, c.temperature);
+        for (int k = 0; k < 3; ++k)
+            EXPECT_EQ(w[k], c.w[k]) << c.temperature << " K, scheme " << c.scheme << ", channel " << k;
+    }
+}
+
+TEST(ColorRamp, EntriesKeepTheirFloatAndDoubleSteps)
+{
+    // One entry through the whole fill: the scale in double, the power held
+    // as a float, the product with 65535 in float, then truncated. Each row
+    // was picked, apart from this code, where moving one of these steps to
+    // the other precision changes the result by one.
+    struct Case
+    {
+        int temperature;
+        int scheme;
+        int leading;
+        float brightness;
+        unsigned short entry;
+        unsigned short expected[3];
+    };
+    const Case cases[] = {
+        {13068, 1, 3, 0.90f, 22260, {20033, 14353, 16329}},
+        {2676, 3, 1, 0.75f, 44892, {33669, 24193, 14928}},
+        {24953, 4, 3, 0.75f, 54120, {40590, 25472, 30561}},
+        {9862, 3, 1, 0.60f, 48821, {20691, 23970, 29292}},
+        {15355, 4, 1, 0.90f, 58422, {36130, 41790, 52579}},
+        {7573, 4, 1, 1.00f, 23582, {21384, 22200, 23582}},
+        {5389, 2, 1, 0.60f, 43772, {26263, 23004, 19083}},
+        {1812, 3, 1, 0.90f, 17890, {16100, 10211, 5156}},
+        {6868, 1, 1, 0.90f, 17850, {15477, 15699, 16065}},
+    };
+    for (const Case& c : cases) {
+        ColorRamp ramp;
+        ramp.set_color_scheme(c.scheme);
+        ramp.set_leading_color(c.leading);
+        unsigned short r = c.entry, g = c.entry, b = c.entry;
+        ColorSettings s = settings_of(c.temperature, c.brightness);
+        ramp.color_ramp_fill(&r, &g, &b, 1, &s);
+        EXPECT_EQ(r, c.expected[0]) << c.temperature << " K";
+        EXPECT_EQ(g, c.expected[1]) << c.temperature << " K";
+        EXPECT_EQ(b, c.expected[2]) << c.temperature << " K";
+    }
+}
+
 TEST(ColorRamp, InterpolatesBetweenRows)
 {
     ColorRamp ramp;
