@@ -203,6 +203,36 @@ TEST_F(ClockCurve, SleepRampsMixWithTheDayValue)
     EXPECT_FLOAT_EQ(at(v, 8, 54), float(day_v * 0.8 + sleep_v * 0.2));
 }
 
+TEST_F(ClockCurve, MixesInDoubleAndNarrowsOnce)
+{
+    // The factors and both mixes are double, narrowed to float only at the
+    // end of each mix. These values were worked out apart from this code
+    // with that rounding; mixing in float lands half a unit lower or higher.
+    struct Instant
+    {
+        int h, m, s, ms;
+        float expected;
+    };
+    ClockInterpolationValues v = evening_night();
+    const Instant evening[] = {
+        {20, 40, 6, 85, 5456.18701f},
+        {20, 46, 49, 259, 4761.83154f},
+        {20, 54, 19, 31, 3987.22437f},
+    };
+    for (const Instant& i : evening)
+        EXPECT_EQ(at(v, i.h, i.m, i.s, i.ms), i.expected) << i.h << ":" << i.m << ":" << i.s;
+
+    // Into the sleep window, from the full night value.
+    v.use_sleep_light = true;
+    const Instant bed[] = {
+        {22, 30, 1, 20, 3399.20679f},
+        {22, 38, 36, 619, 2998.1853f},
+        {22, 48, 6, 704, 2554.78589f},
+    };
+    for (const Instant& i : bed)
+        EXPECT_EQ(at(v, i.h, i.m, i.s, i.ms), i.expected) << i.h << ":" << i.m << ":" << i.s;
+}
+
 TEST_F(ClockCurve, InstantOfBedtimeItselfIsOutsideTheWindow)
 {
     ClockInterpolationValues v = evening_night();
