@@ -323,8 +323,10 @@ void MainWindow::switch_state_return_timeout()
     update_gamma();
     refresh_color_inversion();
     // A pause that went through the dark point ends resting on the saved
-    // ramps, like a plain pause does.
-    if (was_restoring && is_gamma_paused())
+    // ramps, like a plain pause does. Without the low-level path there are
+    // no ramps to give back, and restore_gamma would revert the inversion
+    // the user chose.
+    if (was_restoring && is_gamma_paused() && settings[SaveKeys::USE_LOW_LEVEL_COLOR_API].toBool())
         restore_gamma();
 }
 

@@ -57,6 +57,8 @@ TEST_F(PauseFades, InvertedPauseDarkensFlipsOffAndComesUpToNeutral)
         EXPECT_NEAR(w[k].brightness, (10 + 4.5 * (k + 1)) / 100.0, 1e-5) << k;
         EXPECT_FALSE(w[k].inverted) << "the flip at the dark point turned it off";
     }
+    // It rests on the saved ramps, as a plain pause does.
+    EXPECT_EQ(factory.calls.back().what, "restore");
     // The stored choice is still inverted, and the backend flag follows it.
     EXPECT_TRUE(window->settings["UseInvertedColors"].toBool());
     EXPECT_TRUE(window->gamma_backend()->is_gamma_inverted());
@@ -65,6 +67,19 @@ TEST_F(PauseFades, InvertedPauseDarkensFlipsOffAndComesUpToNeutral)
     factory.calls.clear();
     window->update_gamma();
     EXPECT_TRUE(writes().empty());
+}
+
+TEST_F(PauseFades, InvertedPauseWithoutTheLowLevelApiKeepsTheInversionChoice)
+{
+    store_values["UseLowLevelColorApi"] = false;
+    store_values["UseInvertedColors"] = true;
+    start_settled();
+    window->pause_ovra(true);
+    finish_all_fades();
+    EXPECT_TRUE(window->settings["UseInvertedColors"].toBool())
+        << "pausing must not switch the user's inversion off";
+    window->pause_ovra(false);
+    EXPECT_TRUE(window->fade_state(SWITCH).active) << "the resume goes through the dark point";
 }
 
 TEST_F(PauseFades, InvertedResumeDarkensPlainAndComesUpInvertedToTheCurve)
