@@ -183,6 +183,27 @@ TEST_F(SolarCurve, NewMoonOffsetAppliesAtNewMoon)
     EXPECT_NEAR(at_msecs(set - hour), middle, ramp_tolerance);
 }
 
+TEST_F(SolarCurve, MorningRampExactWithAMixedMoonOffset)
+{
+    // Worked out apart from this code from the sunrise equation, the moon
+    // theory and the curve, with the mixed moon offset held as a float and
+    // the mix in double: kept in double, the offset moves these values by
+    // one unit of the float.
+    values.new_moon_offset = 1234;
+    values.full_moon_offset = 3617;
+    const struct
+    {
+        qint64 msecs;
+        float expected;
+    } instants[] = {
+        {Q_INT64_C(1742437627322), 3373.58643f},
+        {Q_INT64_C(1742439076499), 4136.62646f},
+        {Q_INT64_C(1742440723651), 5003.90234f},
+    };
+    for (const auto& i : instants)
+        EXPECT_EQ(at_msecs(i.msecs), i.expected) << i.msecs;
+}
+
 // --- Sleep, manual path, latch ---------------------------------------------
 
 TEST_F(SolarCurve, SleepWindowAndItsRamps)
