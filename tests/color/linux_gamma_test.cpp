@@ -245,6 +245,20 @@ TEST_F(LinuxGammaTest, AnInvalidCrtcIsReported)
     EXPECT_EQ(gamma.restore_monitor_colors(99), -1);
 }
 
+TEST_F(LinuxGammaTest, AScreenThatIsNotThereEndsStart)
+{
+    LinuxGamma gamma;
+    gamma.randr_state()->screen_num = 7;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(gamma.start(), -1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Screen 7 could not be found.\n");
+    EXPECT_EQ(gamma.get_screen_count(), 0);
+    // The default screen is found again.
+    gamma.randr_state()->screen_num = -1;
+    EXPECT_EQ(gamma.start(), 0);
+    EXPECT_EQ(gamma.get_screen_count(), probe->count());
+}
+
 TEST_F(LinuxGammaTest, InitTwiceKeepsOneWorkingConnection)
 {
     LinuxGamma gamma;
