@@ -3,6 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 #include "color/ColorRamp.h"
 #include "color/CrtcRampBuilder.h"
@@ -29,6 +32,8 @@ LinuxGamma::~LinuxGamma()
 {
     if (owns_crash_file)
         RampCrashFile(QString::fromStdString(crash_path)).remove();
+    if (owner_lock_fd >= 0)
+        close(owner_lock_fd);
     free_crtcs();
     disconnect();
     delete state;
@@ -190,6 +195,20 @@ void LinuxGamma::recover_after_crash()
     RampCrashFile file(RampCrashFile::path_for_display(name));
     crash_path = file.path().toStdString();
 
+    // Another instance that is running on this display holds the lock. Its
+    // file is no crash: it holds the ramps from before that instance's tint,
+    // which are the ones to keep here too, or the tints would compound.
+    const std::string lock_path = crash_path + ".lock";
+    owner_lock_fd = open(lock_path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    const bool other_owner_alive =
+        owner_lock_fd >= 0 && flock(owner_lock_fd, LOCK_EX | LOCK_NB) != 0;
+    if (other_owner_alive) {
+        close(owner_lock_fd);
+        owner_lock_fd = -1;
+    } else if (owner_lock_fd < 0) {
+        fprintf(stderr, "Unable to keep the original ramps in %s\n", crash_path.c_str());
+    }
+
     std::vector<KeptCrtcRamps> kept;
     QString reason;
     switch (file.load(&kept, &reason)) {
@@ -201,24 +220,39 @@ void LinuxGamma::recover_after_crash()
     case RampCrashFile::LoadResult::Loaded:
         break;
     }
-    bool same = kept.size() == state->crtc_count;
-    for (unsigned int i = 0; same && i < state->crtc_count; ++i)
-        same = kept[i].crtc == state->crtcs[i].crtc && kept[i].ramp_size == state->crtcs[i].ramp_size;
-    if (!same) {
+    if (!take_saved_ramps_from(kept)) {
         fprintf(stderr, "Ignoring saved ramps in %s: they belong to other CRTCs\n", crash_path.c_str());
         return;
     }
+    if (other_owner_alive)
+        return;
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
         randr_crtc_state_t& crtc = state->crtcs[i];
-        memcpy(crtc.saved_ramps, kept[i].ramps.data(), 3 * crtc.ramp_size * sizeof(uint16_t));
         if (write_crtc(crtc.crtc, crtc.ramp_size, crtc.saved_ramps) != 0)
             fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
     }
     fprintf(stderr, "Restored the ramps left tinted by an earlier run\n");
 }
 
+bool LinuxGamma::take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept)
+{
+    bool same = kept.size() == state->crtc_count;
+    for (unsigned int i = 0; same && i < state->crtc_count; ++i)
+        same = kept[i].crtc == state->crtcs[i].crtc && kept[i].ramp_size == state->crtcs[i].ramp_size;
+    if (!same)
+        return false;
+    for (unsigned int i = 0; i < state->crtc_count; ++i) {
+        randr_crtc_state_t& crtc = state->crtcs[i];
+        memcpy(crtc.saved_ramps, kept[i].ramps.data(), 3 * crtc.ramp_size * sizeof(uint16_t));
+    }
+    return true;
+}
+
 void LinuxGamma::keep_ramps_for_recovery()
 {
+    // The file belongs to whoever holds the lock.
+    if (owner_lock_fd < 0)
+        return;
     std::vector<KeptCrtcRamps> kept(state->crtc_count);
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
         kept[i].crtc = state->crtcs[i].crtc;

@@ -8,6 +8,8 @@
 
 #include "color/IGamma.h"
 
+struct KeptCrtcRamps;
+
 struct randr_crtc_state_t
 {
     unsigned int crtc = 0;
@@ -61,6 +63,11 @@ private:
     int write_crtc(unsigned int crtc, unsigned int size, const uint16_t* block);
     void recover_after_crash();
     void keep_ramps_for_recovery();
+    bool take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept);
+
+    // Held for as long as this backend keeps the file: a second instance on
+    // the same display sees a live owner, not a crash.
+    int owner_lock_fd = -1;
 
     randr_state_t* state;
     std::string display;

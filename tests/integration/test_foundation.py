@@ -74,6 +74,36 @@ class TintAndRestore(OvraTestCase):
         self.assertEqual(read_ramps(), self.original)
 
 
+class TwoInstancesOnOneDisplay(OvraTestCase):
+    """With the guard off, a second instance must not mistake the first one's
+    kept ramps for the leftovers of a crash, nor tint on top of its tint."""
+
+    def test_second_instance_keeps_the_first_ones_original_ramps(self):
+        config = dict(MANUAL_TINT, AllowMultipleInstances="true")
+        self.write_config(config)
+        tinted = expected_tint(self.original, FIXED_TEMPERATURE, FIXED_BRIGHTNESS)
+        first = self.start()
+        self.wait_for_ramps(tinted)
+        second = self.start()
+        time.sleep(2.5)  # past the second one's fade-in
+        self.assertTrue(second.alive())
+        self.wait_for_ramps(tinted)
+        self.assertNotIn("Restored", second.stderr())
+        second.send(signal.SIGTERM)
+        self.assertEqual(second.wait(timeout=15), 0)
+        # The first one still owns the kept ramps: a crash now is repaired.
+        self.wait_for_ramps(tinted)
+        first.send(signal.SIGKILL)
+        first.wait()
+        third = self.start()
+        self.assertTrue(wait_for(lambda: "Restored the ramps left tinted by an earlier run"
+                                 in third.stderr(), timeout=10), third.stderr())
+        self.wait_for_ramps(tinted)
+        third.send(signal.SIGTERM)
+        self.assertEqual(third.wait(timeout=15), 0)
+        self.assertEqual(read_ramps(), self.original)
+
+
 class SingleInstance(OvraTestCase):
 
     def launch(self, *args):
