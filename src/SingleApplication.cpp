@@ -70,10 +70,11 @@ QString SingleApplication::runtime_directory()
 QString SingleApplication::instance_name()
 {
     const QString base = QCoreApplication::organizationName() + QCoreApplication::applicationName();
-    QString dir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (dir.isEmpty() || !QDir(dir).exists())
-        return base;  // QLocalServer places a bare name in the temp dir, with the user in it
-    return QDir(dir).filePath(base);
+    const QString dir = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!dir.isEmpty() && QDir(dir).exists())
+        return QDir(dir).filePath(base);
+    // The shared temp dir: the user's number keeps two users apart.
+    return QDir(QDir::tempPath()).filePath(base + "-" + QString::number(getuid()));
 }
 
 void SingleApplication::run_guard(const QString& name)

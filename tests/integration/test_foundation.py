@@ -155,6 +155,17 @@ class SingleInstance(OvraTestCase):
         self.assertEqual(second.returncode, 0)
         self.assertTrue(wait_for(lambda: "hello\n" in p.stdout(), timeout=15))
 
+    def test_without_a_runtime_directory_the_socket_is_per_user_in_tmp(self):
+        env = {k: v for k, v in self.env.items() if k != "XDG_RUNTIME_DIR"}
+        first = self.start(env=env)
+        self.wait_for_tint()
+        socket_path = "/tmp/MorvenikOvra-%d" % os.getuid()
+        self.assertTrue(wait_for(lambda: os.path.exists(socket_path), timeout=10))
+        second = subprocess.run([BINARY, "hello"], env=env, cwd=self.home,
+                                capture_output=True, text=True, timeout=20)
+        self.assertEqual(second.returncode, 0)
+        self.assertTrue(wait_for(lambda: "hello\n" in first.stdout(), timeout=15))
+
     def test_ten_launches_at_once_leave_one_instance(self):
         procs = [self.start() for _ in range(10)]
         # Everyone but the first ends by itself with status 0.
