@@ -5,20 +5,8 @@
 #include "time/TimeStrings.h"
 
 namespace {
-double seconds_of_day(int hours, int minutes)
-{
-    return hours * 3600.0 + minutes * 60.0;
-}
-
-// A set time minus a transition, taken back into the day when it falls
-// before midnight.
-double start_of_ramp(int hours, int minutes, int duration)
-{
-    double start = seconds_of_day(hours, minutes) - duration;
-    if (start < 0)
-        start += 86400.0;
-    return start;
-}
+using day_curve::start_of_ramp;
+using day_curve::time_of_day_seconds;
 
 QString clock_time(double seconds)
 {
@@ -56,8 +44,8 @@ double ClockPosition::calculate_interpolation_value_from_time(ClockInterpolation
     const double now = Clock::instance()->now_msecs_since_epoch() / 1000.0;
     const double m = Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
 
-    double night_end = seconds_of_day(v.night_end_hours, v.night_end_minutes);
-    double night_start = seconds_of_day(v.night_start_hours, v.night_start_minutes);
+    double night_end = time_of_day_seconds(v.night_end_hours, v.night_end_minutes);
+    double night_start = time_of_day_seconds(v.night_start_hours, v.night_start_minutes);
 
     double a = night_end - v.day_transition_duration;
     if (a < 0) {
@@ -115,8 +103,8 @@ bool ClockPosition::is_day_mode(ClockInterpolationValues v)
 {
     const double now = Clock::instance()->now_msecs_since_epoch() / 1000.0;
     const double m = Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
-    return now > m + seconds_of_day(v.night_end_hours, v.night_end_minutes) &&
-           now < m + seconds_of_day(v.night_start_hours, v.night_start_minutes);
+    return now > m + time_of_day_seconds(v.night_end_hours, v.night_end_minutes) &&
+           now < m + time_of_day_seconds(v.night_start_hours, v.night_start_minutes);
 }
 
 bool ClockPosition::is_night_mode(ClockInterpolationValues values)
@@ -131,7 +119,7 @@ QString ClockPosition::duration_string(double seconds)
 
 QString ClockPosition::day_start_time_string(ClockInterpolationValues v)
 {
-    return clock_time(seconds_of_day(v.night_end_hours, v.night_end_minutes));
+    return clock_time(time_of_day_seconds(v.night_end_hours, v.night_end_minutes));
 }
 
 QString ClockPosition::day_transition_start_time_string(ClockInterpolationValues v)
@@ -141,7 +129,7 @@ QString ClockPosition::day_transition_start_time_string(ClockInterpolationValues
 
 QString ClockPosition::night_start_time_string(ClockInterpolationValues v)
 {
-    return clock_time(seconds_of_day(v.night_start_hours, v.night_start_minutes));
+    return clock_time(time_of_day_seconds(v.night_start_hours, v.night_start_minutes));
 }
 
 QString ClockPosition::night_transition_start_time_string(ClockInterpolationValues v)
@@ -152,7 +140,7 @@ QString ClockPosition::night_transition_start_time_string(ClockInterpolationValu
 
 QString ClockPosition::bedtime_start_time_string(ClockInterpolationValues v)
 {
-    return clock_time(seconds_of_day(v.bedtime_hours, v.bedtime_minutes));
+    return clock_time(time_of_day_seconds(v.bedtime_hours, v.bedtime_minutes));
 }
 
 QString ClockPosition::bedtime_transition_start_time_string(ClockInterpolationValues v)
@@ -162,7 +150,7 @@ QString ClockPosition::bedtime_transition_start_time_string(ClockInterpolationVa
 
 QString ClockPosition::wake_time_start_time_string(ClockInterpolationValues v)
 {
-    return clock_time(seconds_of_day(v.wake_time_hours, v.wake_time_minutes));
+    return clock_time(time_of_day_seconds(v.wake_time_hours, v.wake_time_minutes));
 }
 
 QString ClockPosition::wake_time_transition_start_time_string(ClockInterpolationValues v)
@@ -173,8 +161,8 @@ QString ClockPosition::wake_time_transition_start_time_string(ClockInterpolation
 
 QString ClockPosition::night_duration_string(ClockInterpolationValues v)
 {
-    const double start = seconds_of_day(v.night_start_hours, v.night_start_minutes);
-    double end = seconds_of_day(v.night_end_hours, v.night_end_minutes);
+    const double start = time_of_day_seconds(v.night_start_hours, v.night_start_minutes);
+    double end = time_of_day_seconds(v.night_end_hours, v.night_end_minutes);
     if (start > end)
         end += 86400.0;
     return duration_string(end - start);
@@ -187,8 +175,8 @@ QString ClockPosition::day_duration_string(ClockInterpolationValues values)
 
 QString ClockPosition::sleep_duration_string(ClockInterpolationValues v)
 {
-    const double bedtime = seconds_of_day(v.bedtime_hours, v.bedtime_minutes);
-    double wake_time = seconds_of_day(v.wake_time_hours, v.wake_time_minutes);
+    const double bedtime = time_of_day_seconds(v.bedtime_hours, v.bedtime_minutes);
+    double wake_time = time_of_day_seconds(v.wake_time_hours, v.wake_time_minutes);
     if (bedtime > wake_time)
         wake_time += 86400.0;
     return duration_string(wake_time - bedtime);

@@ -4,6 +4,20 @@
 
 namespace day_curve {
 
+double time_of_day_seconds(int hours, int minutes)
+{
+    return hours * 3600.0 + minutes * 60.0;
+}
+
+double start_of_ramp(int hours, int minutes, int duration)
+{
+    double start = time_of_day_seconds(hours, minutes) - duration;
+    if (start < 0)
+        start += 86400.0;
+    return start;
+}
+
+
 namespace {
 Step sleep_ramp(double factor)
 {

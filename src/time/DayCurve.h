@@ -8,6 +8,13 @@
 // ask for, in the order it calls them.
 namespace day_curve {
 
+// A set time of day in seconds since midnight.
+double time_of_day_seconds(int hours, int minutes);
+
+// A set time minus a transition, taken back into the day when it falls
+// before midnight.
+double start_of_ramp(int hours, int minutes, int duration);
+
 struct Step
 {
     double factor = 0.0;       // 0: the outer value; 1: the inner value

@@ -17,20 +17,8 @@ double midnight_seconds()
     return Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
 }
 
-double time_of_day_seconds(int hours, int minutes)
-{
-    return hours * 3600.0 + minutes * 60.0;
-}
-
-// A set time minus a transition, taken back into the day when it falls
-// before midnight.
-double start_of_ramp(int hours, int minutes, int duration)
-{
-    double start = time_of_day_seconds(hours, minutes) - duration;
-    if (start < 0)
-        start += 86400.0;
-    return start;
-}
+using day_curve::start_of_ramp;
+using day_curve::time_of_day_seconds;
 } // namespace
 
 SolarPosition::SolarPosition() : sun(new Sun()), moon(new Moon()) {}
