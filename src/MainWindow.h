@@ -190,6 +190,15 @@ private:
     int set_temperature(ColorSettings* color_settings, int monitor);
     int update_gamma_for_monitor(int monitor);
     bool uses_solar_curve();
+    // The keys of one quantity the day curves interpolate.
+    struct CurveKeys
+    {
+        const char* manual;
+        const char* day;
+        const char* night;
+        const char* sleep;
+    };
+    float interpolate_curve(const CurveKeys& keys, int monitor, bool brightness);
     void fill_solar_interpolation_values(SolarInterpolationValues* values);
     void fill_clock_interpolation_values(ClockInterpolationValues* values);
     int get_monitor_value(const char* key, int monitor);

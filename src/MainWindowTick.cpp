@@ -93,55 +93,50 @@ bool MainWindow::uses_solar_curve()
            && longitude != -1.0;
 }
 
-float MainWindow::get_interpolated_color_temperature(int monitor)
+// Puts the three values of one quantity into the record of the curve in
+// use and asks that curve for this moment's value.
+float MainWindow::interpolate_curve(const CurveKeys& keys, int monitor, bool brightness)
 {
-    const bool manual = settings[SaveKeys::USE_MANUAL_COLOR_SETTINGS].toBool();
-    const float day = settings[monitor_key(SaveKeys::DAY_TEMPERATURE, monitor)].toInt();
-    const float night = settings[monitor_key(SaveKeys::NIGHT_TEMPERATURE, monitor)].toInt();
-    const float sleep = settings[monitor_key(SaveKeys::SLEEP_LIGHT, monitor)].toInt();
-    if (uses_solar_curve()) {
-        SolarInterpolationValues values;
-        fill_solar_interpolation_values(&values);
+    const bool manual = settings[keys.manual].toBool();
+    const float day = settings[monitor_key(keys.day, monitor)].toInt();
+    const float night = settings[monitor_key(keys.night, monitor)].toInt();
+    const float sleep = settings[monitor_key(keys.sleep, monitor)].toInt();
+    auto put_values = [&](auto& values) {
         values.use_manual_value = manual;
         values.day_value = day;
         values.night_value = night;
         values.sleep_value = sleep;
-        return SolarPosition::s_instance->get_interpolated_color_temperature(values);
+    };
+    if (uses_solar_curve()) {
+        SolarInterpolationValues values;
+        fill_solar_interpolation_values(&values);
+        put_values(values);
+        SolarPosition* sun = SolarPosition::s_instance;
+        return brightness ? sun->get_interpolated_brightness(values)
+                          : sun->get_interpolated_color_temperature(values);
     }
     ClockInterpolationValues values;
     fill_clock_interpolation_values(&values);
-    values.use_manual_value = manual;
-    values.day_value = day;
-    values.night_value = night;
-    values.sleep_value = sleep;
-    return ClockPosition::s_instance->get_interpolated_color_temperature(values);
+    put_values(values);
+    ClockPosition* clock = ClockPosition::s_instance;
+    return brightness ? clock->get_interpolated_brightness(values)
+                      : clock->get_interpolated_color_temperature(values);
+}
+
+float MainWindow::get_interpolated_color_temperature(int monitor)
+{
+    static const CurveKeys keys{SaveKeys::USE_MANUAL_COLOR_SETTINGS, SaveKeys::DAY_TEMPERATURE,
+                                SaveKeys::NIGHT_TEMPERATURE, SaveKeys::SLEEP_LIGHT};
+    return interpolate_curve(keys, monitor, false);
 }
 
 float MainWindow::get_interpolated_brightness(int monitor)
 {
-    const bool manual = settings[SaveKeys::USE_MANUAL_BRIGHTNESS].toBool();
-    const float day = settings[monitor_key(SaveKeys::DAY_BRIGHTNESS, monitor)].toInt();
-    const float night = settings[monitor_key(SaveKeys::NIGHT_BRIGHTNESS, monitor)].toInt();
-    const float sleep = settings[monitor_key(SaveKeys::SLEEP_BRIGHTNESS, monitor)].toInt();
-    float value = 0.0f;
-    if (uses_solar_curve()) {
-        SolarInterpolationValues values;
-        fill_solar_interpolation_values(&values);
-        values.use_manual_value = manual;
-        values.day_value = day;
-        values.night_value = night;
-        values.sleep_value = sleep;
-        value = SolarPosition::s_instance->get_interpolated_brightness(values);
-    } else {
-        ClockInterpolationValues values;
-        fill_clock_interpolation_values(&values);
-        values.use_manual_value = manual;
-        values.day_value = day;
-        values.night_value = night;
-        values.sleep_value = sleep;
-        value = ClockPosition::s_instance->get_interpolated_brightness(values);
-    }
-    return value + smart_brightness_modifier();
+    static const CurveKeys keys{SaveKeys::USE_MANUAL_BRIGHTNESS, SaveKeys::DAY_BRIGHTNESS,
+                                SaveKeys::NIGHT_BRIGHTNESS, SaveKeys::SLEEP_BRIGHTNESS};
+    // The smart modifier counts in every call, so fades that read the target
+    // take it in too.
+    return interpolate_curve(keys, monitor, true) + smart_brightness_modifier();
 }
 
 void MainWindow::fill_solar_interpolation_values(SolarInterpolationValues* values)
