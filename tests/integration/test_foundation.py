@@ -52,7 +52,19 @@ class TintAndRestore(OvraTestCase):
             capture_output=True, text=True).stdout.split(), timeout=10)
         self.assertTrue(window, "the settings window was never created")
         closer = os.path.join(os.path.dirname(os.environ["OVRA_RAMPS"]), "ovra-close-window")
-        subprocess.run([closer, window[0]], check=True, timeout=10)
+
+        # The window opens minimized and is then shown; a close that reaches
+        # it before Qt has seen it mapped is dropped, as no user could click
+        # it then. So ask again, as a user would, until the program ends.
+        def closed():
+            subprocess.run([closer, window[0]], timeout=10)
+            try:
+                p.proc.wait(timeout=0.5)
+                return True
+            except subprocess.TimeoutExpired:
+                return False
+
+        self.assertTrue(wait_for(closed, timeout=20), "closing the window did not end the program")
         self.assertEqual(p.wait(timeout=15), 0)
         self.assertIn("Tray icon is not visible", p.stdout())
         self.assertEqual(read_ramps(), self.original)
