@@ -9,7 +9,7 @@ constexpr int MAGMUS_COLOR_TEMPERATURE_ROWS = 101; // 0 K .. 10000 K
 constexpr int OLAF_COLOR_TEMPERATURE_ROWS = 101;   // 0 K .. 10000 K
 constexpr int GROOT_COLOR_TEMPERATURE_ROWS = 252;  // 0 K .. 25100 K
 
-extern const float ovra_color_temperature[OVRA_COLOR_TEMPERATURE_ROWS * 3];
+extern const float (&ovra_color_temperature)[OVRA_COLOR_TEMPERATURE_ROWS * 3];
 extern const float magmus_color_temperature[MAGMUS_COLOR_TEMPERATURE_ROWS * 3];
 extern const float olaf_color_temperature[OLAF_COLOR_TEMPERATURE_ROWS * 3];
-extern const float groot_color_temperature[GROOT_COLOR_TEMPERATURE_ROWS * 3];
+extern const float (&groot_color_temperature)[GROOT_COLOR_TEMPERATURE_ROWS * 3];
