@@ -157,40 +157,41 @@ QString SolarPosition::sunset_time_string(SolarInterpolationValues values)
     return sun_time_string(sunset_msecs(values));
 }
 
-QString SolarPosition::day_start_time_string(SolarInterpolationValues v)
+QString SolarPosition::moved_sun_time_string(double event_msecs, double transition_msecs,
+                                             const SolarInterpolationValues& v)
 {
     const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunrise_msecs(v) - offset * 1000.0);
+    return sun_time_string(event_msecs + transition_msecs - offset * 1000.0);
+}
+
+QString SolarPosition::day_start_time_string(SolarInterpolationValues v)
+{
+    return moved_sun_time_string(sunrise_msecs(v), 0.0, v);
 }
 
 QString SolarPosition::day_transition_start_time_string(SolarInterpolationValues v)
 {
-    const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunrise_msecs(v) - v.day_transition_duration * 500.0 - offset * 1000.0);
+    return moved_sun_time_string(sunrise_msecs(v), -v.day_transition_duration * 500.0, v);
 }
 
 QString SolarPosition::day_transition_end_time_string(SolarInterpolationValues v)
 {
-    const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunrise_msecs(v) + v.day_transition_duration * 500.0 - offset * 1000.0);
+    return moved_sun_time_string(sunrise_msecs(v), v.day_transition_duration * 500.0, v);
 }
 
 QString SolarPosition::night_start_time_string(SolarInterpolationValues v)
 {
-    const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunset_msecs(v) - offset * 1000.0);
+    return moved_sun_time_string(sunset_msecs(v), 0.0, v);
 }
 
 QString SolarPosition::night_transition_start_time_string(SolarInterpolationValues v)
 {
-    const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunset_msecs(v) - v.night_transition_duration * 500.0 - offset * 1000.0);
+    return moved_sun_time_string(sunset_msecs(v), -v.night_transition_duration * 500.0, v);
 }
 
 QString SolarPosition::night_transition_end_time_string(SolarInterpolationValues v)
 {
-    const double offset = moon_offset(now_seconds(), v.new_moon_offset, v.full_moon_offset);
-    return sun_time_string(sunset_msecs(v) + v.night_transition_duration * 500.0 - offset * 1000.0);
+    return moved_sun_time_string(sunset_msecs(v), v.night_transition_duration * 500.0, v);
 }
 
 QString SolarPosition::bedtime_start_time_string(SolarInterpolationValues v)

@@ -65,6 +65,10 @@ private:
     double sunrise_msecs(const SolarInterpolationValues& values);
     double sunset_msecs(const SolarInterpolationValues& values);
     QString sun_time_string(double msecs);
+    // A sun event moved by part of its transition and by the moon offset of
+    // this moment, as the curve itself moves it.
+    QString moved_sun_time_string(double event_msecs, double transition_msecs,
+                                  const SolarInterpolationValues& v);
     QString duration_string(double seconds);
 
     Sun* sun;
