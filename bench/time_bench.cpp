@@ -9,12 +9,10 @@
 
 namespace {
 
-void BM_solar_get_interpolated_value(benchmark::State& state)
+// The fields both records share, set alike so that the two figures compare.
+template <class Values>
+void fill_shared(Values& v)
 {
-    SolarPosition curve;
-    SolarInterpolationValues v;
-    v.latitude = 52.52f;
-    v.longitude = 13.40f;
     v.bedtime_hours = 23;
     v.wake_time_hours = 7;
     v.day_value = 6500.0f;
@@ -24,6 +22,15 @@ void BM_solar_get_interpolated_value(benchmark::State& state)
     v.day_transition_duration = 1800;
     v.night_transition_duration = 1800;
     v.sleep_transition_duration = 1800;
+}
+
+void BM_solar_get_interpolated_value(benchmark::State& state)
+{
+    SolarPosition curve;
+    SolarInterpolationValues v;
+    v.latitude = 52.52f;
+    v.longitude = 13.40f;
+    fill_shared(v);
     v.time_zone_offset = 1;
     v.new_moon_offset = 600;
     v.full_moon_offset = -600;
@@ -38,15 +45,7 @@ void BM_clock_get_interpolated_value(benchmark::State& state)
     ClockInterpolationValues v;
     v.night_start_hours = 21;
     v.night_end_hours = 7;
-    v.bedtime_hours = 23;
-    v.wake_time_hours = 7;
-    v.day_value = 6500.0f;
-    v.night_value = 3400.0f;
-    v.sleep_value = 2000.0f;
-    v.use_sleep_light = true;
-    v.day_transition_duration = 1800;
-    v.night_transition_duration = 1800;
-    v.sleep_transition_duration = 1800;
+    fill_shared(v);
     for (auto _ : state)
         benchmark::DoNotOptimize(curve.get_interpolated_value(v));
 }
