@@ -70,7 +70,6 @@ public:
     int current_monitor = 0;
 
     IGamma* gamma_backend() const { return gamma; }
-    bool is_window_ui_created() const { return ui_created; }
     const FadeRecord& fade_state(int which) const;
 
     // Tests put a factory of their own here before the controller is built,

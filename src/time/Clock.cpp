@@ -16,12 +16,6 @@ QDateTime Clock::today_midnight() const
     return QDateTime(at.date(), QTime(0, 0), Qt::LocalTime);
 }
 
-double Clock::seconds_since_midnight() const
-{
-    const QDateTime at = now().toLocalTime();
-    return at.time().msecsSinceStartOfDay() / 1000.0;
-}
-
 Clock* Clock::instance()
 {
     return installed_clock ? installed_clock : &system_clock;

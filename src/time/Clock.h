@@ -16,8 +16,6 @@ public:
     qint64 now_msecs_since_epoch() const { return now().toMSecsSinceEpoch(); }
     // Local midnight at the start of the present day.
     QDateTime today_midnight() const;
-    // Seconds since local midnight, with milliseconds as fraction.
-    double seconds_since_midnight() const;
 
     // The clock in use: the system clock unless a test installed another.
     static Clock* instance();

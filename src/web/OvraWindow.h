@@ -10,13 +10,10 @@ class OvraWindow : public QDialog
 
 public:
     OvraWindow(int bridge_port, QWidget* parent, int flags)
-        : QDialog(parent), m_bridge_port(bridge_port)
+        : QDialog(parent)
     {
+        // The bridge's port and flags matter once the window shows a page.
+        Q_UNUSED(bridge_port);
         Q_UNUSED(flags);
     }
-
-    int bridge_port() const { return m_bridge_port; }
-
-private:
-    int m_bridge_port;
 };
