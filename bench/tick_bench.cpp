@@ -10,7 +10,7 @@
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
 #include "settings/SaveManager.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 
 // Process-wide keyboard access for the global hotkeys. Created with the
 // other managers and never deleted: key grabs may still be released while

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 
 // Learns of new versions. The check itself comes with the update service;
 // until then it reports nothing.

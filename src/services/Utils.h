@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 
 // Process-wide helpers shared by the windows.
 class Utils : public QObject, public Singleton<Utils>

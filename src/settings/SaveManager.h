@@ -3,7 +3,7 @@
 #include <QSettings>
 #include <QString>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 #include "settings/SettingsHost.h"
 #include "settings/SettingsTable.h"
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 #include "settings/Defines.h"
 #include "settings/SaveKeys.h"
 #include "settings/SaveManager.h"

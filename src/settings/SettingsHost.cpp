@@ -1,8 +1,5 @@
 #include "settings/SettingsHost.h"
 
-// Defined beside the controller's wiring (MainWindowSettingsHost.cpp).
-SettingsHost main_window_settings_host();
-
 namespace {
 SettingsHostSource& host_source()
 {
@@ -13,9 +10,11 @@ SettingsHostSource& host_source()
 
 SettingsHost settings_host()
 {
+    // The controller puts its source here when it comes up; until then, and
+    // after it goes, the store works without one.
     if (host_source())
         return host_source()();
-    return main_window_settings_host();
+    return SettingsHost();
 }
 
 void set_settings_host_source(SettingsHostSource source)

@@ -61,6 +61,6 @@ using SettingsHostSource = std::function<SettingsHost()>;
 // The host of this moment; invalid when there is no controller.
 SettingsHost settings_host();
 
-// Replaces where settings_host() looks; an empty source restores the
-// controller. For tests and for the controller's own wiring.
+// Replaces where settings_host() looks; an empty source leaves the store
+// without a host. The controller sets its own while it lives; tests set theirs.
 void set_settings_host_source(SettingsHostSource source);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 #include "time/SolarInterpolationValues.h"
 #include "time/TransitionType.h"
 

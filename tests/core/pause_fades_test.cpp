@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 
 #include "ControllerFixture.h"
-#include "SingleApplication.h"
+#include "app/SingleApplication.h"
 
 using namespace controller_test;
 

@@ -1,7 +1,7 @@
 // The process-wide objects exist once; the soft assertion logs and goes on.
 #include <gtest/gtest.h>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
 #include "settings/SaveManager.h"

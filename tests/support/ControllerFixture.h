@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
 #include "settings/SaveManager.h"

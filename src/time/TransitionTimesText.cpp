@@ -1,4 +1,4 @@
-#include "TransitionTimesText.h"
+#include "time/TransitionTimesText.h"
 
 #include <QCoreApplication>
 

@@ -3,7 +3,7 @@
 // alone writes to the display.
 #include <iostream>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "color/ColorSettings.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"

@@ -3,7 +3,7 @@
 // move the display to the result with the one-second fade.
 #include <QDebug>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "policy/AdvancedShadows.h"
 #include "policy/OvraModes.h"
 #include "policy/OvraTypes.h"

@@ -1,4 +1,4 @@
-#include "Singleton.h"
+#include "base/Singleton.h"
 
 #include <iostream>
 

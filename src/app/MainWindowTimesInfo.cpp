@@ -1,7 +1,7 @@
 // The long report of the day's times. Built on request and whenever a curve
 // setting changes, never per tick.
-#include "MainWindow.h"
-#include "TransitionTimesText.h"
+#include "app/MainWindow.h"
+#include "time/TransitionTimesText.h"
 #include "time/Clock.h"
 #include "time/ClockPosition.h"
 #include "time/SolarPosition.h"

@@ -1,4 +1,4 @@
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -7,13 +7,14 @@
 #include <QKeyEvent>
 #include <iostream>
 
-#include "UnixSignals.h"
+#include "app/UnixSignals.h"
 #include "color/GammaFactory.h"
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
 #include "services/Updater.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
+#include "settings/SettingsHost.h"
 #include "spells/HiddenFeatures.h"
 
 namespace {
@@ -30,8 +31,11 @@ bool setting_true(const std::map<QString, QVariant>& settings, const char* key)
 GammaFactory* MainWindow::gamma_factory_override = nullptr;
 int MainWindow::screen_count_override = -1;
 
+SettingsHost main_window_settings_host();
+
 MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
 {
+    set_settings_host_source(main_window_settings_host);
     network_manager = new QNetworkAccessManager(this);
     current_temperature = 6500;
     current_brightness = 100;
@@ -88,6 +92,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    set_settings_host_source({});
 }
 
 // ---------------------------------------------------------------- window

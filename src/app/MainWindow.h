@@ -8,7 +8,7 @@
 #include <map>
 #include <vector>
 
-#include "Singleton.h"
+#include "base/Singleton.h"
 #include "policy/BrightnessConfigManager.h"
 #include "policy/TemperatureConfigManager.h"
 #include "web/OvraWindow.h"

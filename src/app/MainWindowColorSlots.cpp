@@ -1,6 +1,6 @@
 // Change handlers of the colour engine's own settings: scheme, leading
 // colour, preserved calibration and the length of the pause fades.
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "settings/ChangeRule.h"
 #include "settings/SaveKeys.h"
 

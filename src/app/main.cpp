@@ -1,7 +1,7 @@
 #include <QGuiApplication>
 
-#include "MainWindow.h"
-#include "SingleApplication.h"
+#include "app/MainWindow.h"
+#include "app/SingleApplication.h"
 #include "services/DisplayProbe.h"
 #include "settings/SaveKeys.h"
 

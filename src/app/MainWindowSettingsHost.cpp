@@ -3,7 +3,7 @@
 // yet (tray, hotkeys, unused pages, colour triggers, the page's list texts).
 // reset_timer is wired although its body waits for the break timer, so that
 // every restore pass hands the break lengths over once that timer exists.
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "settings/SaveKeys.h"
 #include "settings/SettingsHost.h"
 

@@ -5,7 +5,7 @@
 // display refuses the pair.
 #include <QDebug>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "policy/AdvancedShadows.h"
 #include "policy/ValueGiveWay.h"
 #include "settings/ChangeRule.h"

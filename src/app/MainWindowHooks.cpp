@@ -1,6 +1,6 @@
 // The places where subsystems that are not built yet plug into the
 // controller. Each answers as the program behaves without that subsystem.
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 
 // Colour triggers (watched applications) never take charge yet.
 bool MainWindow::color_triggers_in_charge()

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 #include "color/ColorSettings.h"
 #include "color/IGamma.h"
 #include "settings/SaveKeys.h"
