@@ -23,6 +23,9 @@ if [ -n "$missing" ]; then
   $sudo apt-get update -qq
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $missing
 fi
-if [ -f package.json ] && [ ! -d node_modules ]; then
+# The page libraries and the browser driver, as package-lock.json pins them;
+# again whenever the lock file is newer than what was installed.
+if [ -f package-lock.json ] && { [ ! -f node_modules/.package-lock.json ] ||
+     [ package-lock.json -nt node_modules/.package-lock.json ]; }; then
   npm ci --no-audit --no-fund
 fi
