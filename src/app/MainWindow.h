@@ -9,44 +9,26 @@
 #include <vector>
 
 #include "base/Singleton.h"
+#include "color/ColorFades.h"
 #include "policy/BrightnessConfigManager.h"
 #include "policy/TemperatureConfigManager.h"
 #include "web/OvraWindow.h"
 
+class ColorCurve;
+class ColorTick;
 class IGamma;
 class GammaFactory;
 class HiddenFeatures;
+class IColorTriggers;
+class IRestTimer;
+class IScreenOverlays;
+class ITrayIcon;
 class OnlineState;
 struct SolarInterpolationValues;
 struct ClockInterpolationValues;
 class Settings;
 class UnixSignals;
 struct ColorSettings;
-
-// One of the four colour fades: a timer, where the fade stands and where it
-// goes.
-struct FadeRecord
-{
-    QTimer* timer = nullptr;
-    bool active = false;
-    float temperature = 6500.0f;
-    float brightness = 100.0f;
-    float target_temperature = 6500.0f;
-    float target_brightness = 100.0f;
-    float temperature_step = 0.0f;
-    float brightness_step = 0.0f;
-
-    // Sets the start and the target, raises the flag and starts the timer.
-    void begin(float from_temperature, float from_brightness, float to_temperature,
-               float to_brightness);
-    // Moves both values one step; true once both have passed their targets.
-    bool advance();
-    // Stops the timer, lowers the flag and clears the steps.
-    void stop();
-    // Ends this fade so that another can turn round where it stood: the
-    // values it had reached replace the given start when it was running.
-    void take_over(float& from_temperature, float& from_brightness);
-};
 
 // The central controller and the settings window. It owns the settings map
 // and the subsystem objects; its slots are the catalogue that the page,
@@ -71,6 +53,13 @@ public:
 
     IGamma* gamma_backend() const { return gamma; }
     const FadeRecord& fade_state(int which) const;
+
+    // The subsystems the controller calls; each stays null until it exists,
+    // and the controller then behaves as the program does without it.
+    IRestTimer* rest_timer = nullptr;
+    ITrayIcon* tray_icon = nullptr;
+    IScreenOverlays* overlays = nullptr;
+    IColorTriggers* color_triggers = nullptr;
 
     // Tests put a factory of their own here before the controller is built,
     // to put a recording backend in place of the display.
@@ -105,7 +94,7 @@ public slots:
     // The tick.
     int update_gamma();
     void update_ui();
-    void update_overlay_screen() {}
+    void update_overlay_screen();
     void update_idle_time();
     void update_smart_brightness() {}
     void update_smart_inversion() {}
@@ -183,40 +172,26 @@ private:
     void setup_timers();
     void setup_gamma_timers();
     void setup_signal_handlers();
+    void setup_last_words();
+    // The save of every way out, when the user keeps auto-save on.
+    void save_on_the_way_out();
     void setup_ovra_icon();
     bool create_ovra_ui();
     void check_for_first_start();
+    void setup_color_engine();
     int set_temperature(ColorSettings* color_settings, int monitor);
-    int update_gamma_for_monitor(int monitor);
     bool uses_solar_curve();
-    // The keys of one quantity the day curves interpolate.
-    struct CurveKeys
-    {
-        const char* manual;
-        const char* day;
-        const char* night;
-        const char* sleep;
-    };
-    float interpolate_curve(const CurveKeys& keys, int monitor, bool brightness);
     void fill_solar_interpolation_values(SolarInterpolationValues* values);
     void fill_clock_interpolation_values(ClockInterpolationValues* values);
-    int get_monitor_value(const char* key, int monitor);
-    int pause_fade_ticks();
-    bool is_fade_active() const;
-    void write_fade_values(const FadeRecord& fade);
-    void start_switch_fade(float from_temperature, float from_brightness);
-    void set_inversion(bool inverted);
 
-    // Hooks of subsystems that are not built yet; each is the one place where
-    // that subsystem plugs in (see MainWindowHooks.cpp).
-    bool color_triggers_in_charge();
-    int smart_brightness_modifier();
-    void update_pwm_control_status();
-    bool rest_timer_exists();
-    bool is_rest_started();
+    // Screen-content brightness and hardware PWM have no helpers on this
+    // platform: nothing to add and nothing to follow.
+    int smart_brightness_modifier() { return 0; }
+    void update_pwm_control_status() {}
+    // The tray's actions and the overlays follow a pause.
+    void refresh_pause_dependents();
     void start_rest_timer();
     void stop_rest_timer();
-    void refresh_pause_dependents();
 
     QNetworkAccessManager* network_manager = nullptr;
     IGamma* gamma = nullptr;
@@ -224,33 +199,25 @@ private:
     Settings* app_settings = nullptr;
     UnixSignals* unix_signals = nullptr;
 
+    // One timer a second drives the tick, the smart updates and the fixer
+    // together, so that an idle program wakes once a second.
     QTimer* update_timer = nullptr;
-    QTimer* smart_timer = nullptr;
-    QTimer* minute_timer = nullptr;
-    QTimer* fixer_timer = nullptr;
     QTimer* fade_timer = nullptr;
-    FadeRecord restore_fade;
-    FadeRecord return_fade;
-    FadeRecord switch_fade;
-    FadeRecord switch_return_fade;
+    ColorCurve* curve = nullptr;
+    ColorFades* fades = nullptr;
+    ColorTick* tick = nullptr;
 
     float window_fade = 0.0f;
     bool window_showing = true;
     bool idle_paused = false;
     int idle_seconds = 0;
     bool ovra_loaded = false;
-    bool first_update_done = false;
     bool window_opened_once = false;
     bool open_after_load = false;
     bool first_start = false;
     bool ui_created = false;
     bool fix_gamma_requested = false;
-    int last_temperature = -1;
-    float last_brightness = -1.0f;
-    int last_color_effect = -1;
-    bool inversion_target = false;
-    bool pending_return_fade = false;
-    bool pending_restore_fade = false;
+    bool quitting = false;
     bool color_changes_auto_paused = false;
     QString applied_color_trigger;
 
@@ -337,7 +304,7 @@ public slots:
     void update_transition_times_info();
     void update_moon_phases_info();
 
-    // Named places of parts not built yet (MainWindowHooks.cpp).
+    // Calls into the subsystems (MainWindowSubsystems.cpp).
     void update_ovra_status();
     void refresh_overlay_screens(bool force);
     void refresh_lightness_screens(bool force);
@@ -425,10 +392,5 @@ private:
     void change_time_pair(const char* hours_key, const char* minutes_key, int hours,
                           int minutes, PairSignal signal);
 
-    // Hooks of the tray and the break timer, which are not built yet.
-    void tray_refresh_selected_type();
-    void tray_refresh_selected_mode();
-    void tray_refresh_tray_icon_actions();
-    void rest_timer_set_timer_type(int value);
     // End of Types, modes and colour values ----------------------------------
 };

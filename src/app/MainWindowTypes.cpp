@@ -4,6 +4,8 @@
 #include <QDebug>
 
 #include "app/MainWindow.h"
+#include "breaks/IRestTimer.h"
+#include "tray/ITrayIcon.h"
 #include "policy/AdvancedShadows.h"
 #include "policy/OvraModes.h"
 #include "policy/OvraTypes.h"
@@ -64,8 +66,8 @@ void MainWindow::apply_type(int type, int old_type)
     }
 
     move_to_interpolated();
-    if (type != old_type)
-        tray_refresh_selected_type();
+    if (type != old_type && tray_icon)
+        tray_icon->refresh_selected_type();
 }
 
 // Fades from where the display stands to this moment's values of the first
@@ -117,8 +119,8 @@ void MainWindow::apply_mode(int mode, int old_mode)
         break;
     }
     move_to_interpolated();
-    if (mode != old_mode)
-        tray_refresh_selected_mode();
+    if (mode != old_mode && tray_icon)
+        tray_icon->refresh_selected_mode();
 }
 
 void MainWindow::change_mode()
@@ -180,12 +182,13 @@ void MainWindow::timer_type_changed(int value)
         settings, key_of(SaveKeys::TIMER_TYPE), value,
         [&] {
             const int stored = settings[key_of(SaveKeys::TIMER_TYPE)].toInt();
-            if (rest_timer_exists())
-                rest_timer_set_timer_type(stored);
+            if (rest_timer)
+                rest_timer->set_timer_type(stored);
             // Type 1 is the timer switched off.
             settings[key_of(SaveKeys::IS_TIMER_PAUSED)] = value == 1;
             refresh_taskbar_button();
-            tray_refresh_tray_icon_actions();
+            if (tray_icon)
+                tray_icon->refresh_tray_icon_actions();
             if (SaveManager::s_instance)
                 SaveManager::s_instance->save_tray_icon();
             reset_timer();

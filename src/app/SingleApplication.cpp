@@ -102,6 +102,12 @@ void SingleApplication::run_guard(const QString& name)
     connect(server, SIGNAL(newConnection()), this, SLOT(slotConnectionEstablished()));
 }
 
+void SingleApplication::close_instance_socket()
+{
+    if (server)
+        server->close();
+}
+
 void SingleApplication::slotConnectionEstablished()
 {
     if (!server)

@@ -26,6 +26,9 @@ public:
     void setMainWindow(MainWindow* window) { main_window = window; }
     MainWindow* getMainWindow() { return main_window; }
 
+    // Closes the instance's socket, so that its file goes too.
+    void close_instance_socket();
+
     void create_managers();
     void delete_managers();
 

@@ -27,13 +27,19 @@ UnixSignals::~UnixSignals()
 
 bool UnixSignals::install()
 {
+    if (!catch_early())
+        return false;
+    m_notifier = new QSocketNotifier(signal_pipe[1], QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &UnixSignals::read_signal);
+    return true;
+}
+
+bool UnixSignals::catch_early()
+{
     if (signal_pipe[0] < 0 && ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signal_pipe) != 0) {
         std::perror("socketpair");
         return false;
     }
-    m_notifier = new QSocketNotifier(signal_pipe[1], QSocketNotifier::Read, this);
-    connect(m_notifier, &QSocketNotifier::activated, this, &UnixSignals::read_signal);
-
     struct sigaction action = {};
     action.sa_handler = on_signal;
     sigemptyset(&action.sa_mask);

@@ -15,7 +15,10 @@ public:
     explicit UnixSignals(QObject* parent = nullptr);
     ~UnixSignals() override;
 
-    // Installs the handlers for SIGINT, SIGTERM, SIGHUP and SIGUSR1.
+    // Installs the handlers for SIGINT, SIGTERM, SIGHUP and SIGUSR1 before
+    // there is an event loop; what arrives waits in the socket pair.
+    static bool catch_early();
+    // Reads the socket pair on the event loop (catching first if need be).
     bool install();
 
 signals:

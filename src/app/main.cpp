@@ -1,12 +1,23 @@
 #include <QGuiApplication>
 
+#include "app/CommandLine.h"
 #include "app/MainWindow.h"
 #include "app/SingleApplication.h"
+#include "app/UnixSignals.h"
 #include "services/DisplayProbe.h"
 #include "settings/SaveKeys.h"
 
 int main(int argc, char** argv)
 {
+    const int answered = CommandLine::answer_and_exit_code(argc, argv);
+    if (answered >= 0)
+        return answered;
+
+    // From here on a TERM, INT or HUP waits in a socket until the event loop
+    // reads it, so that even one that comes during start-up leaves through
+    // quit(): settings saved, ramps given back.
+    UnixSignals::catch_early();
+
     if (qEnvironmentVariableIntValue("OVRA_DEBUG") != 1)
         qInstallMessageHandler(noMessageOutput);
     qputenv("QT_BEARER_POLL_TIMEOUT", QByteArray::number(-1));

@@ -32,13 +32,25 @@ public:
     {
         return 0;
     }
-    virtual void set_use_inverted_gamma(bool inverted) { use_inverted_gamma = inverted; }
+    virtual void set_use_inverted_gamma(bool inverted)
+    {
+        use_inverted_gamma = inverted;
+        ++ramp_generation;
+    }
     virtual bool is_gamma_inverted() { return use_inverted_gamma; }
-    virtual void set_preserve_gamma(bool preserve) { preserve_gamma = preserve; }
+    virtual void set_preserve_gamma(bool preserve)
+    {
+        preserve_gamma = preserve;
+        ++ramp_generation;
+    }
     virtual bool is_gamma_preserved() { return preserve_gamma; }
     virtual void set_color_scheme(int scheme);
     virtual void set_leading_color(int leading);
     virtual void set_gamma_fixer(int fixer) { gamma_fixer = fixer; }
+
+    // Gives up what the backend keeps for repairing a crash, without
+    // touching the display: for a way out on which the display is gone.
+    virtual void release_crash_file() {}
 
     // False when the backend could not reach its display in init(); the
     // controller decides what to do about it.
@@ -51,4 +63,7 @@ protected:
     bool use_inverted_gamma = false;
     bool preserve_gamma = true;
     int gamma_fixer = 0;
+    // Moves whenever something a built ramp depends on changes, other than
+    // the temperature and brightness: backends that keep built ramps compare it.
+    unsigned int ramp_generation = 0;
 };

@@ -30,20 +30,33 @@ LinuxGamma::LinuxGamma(const char* display_name)
 
 LinuxGamma::~LinuxGamma()
 {
-    if (owns_crash_file)
-        RampCrashFile(QString::fromStdString(crash_path)).remove();
-    if (owner_lock_fd >= 0)
-        close(owner_lock_fd);
+    release_crash_file();
     free_crtcs();
     disconnect();
     delete state;
 }
 
+void LinuxGamma::release_crash_file()
+{
+    if (owns_crash_file)
+        RampCrashFile(QString::fromStdString(crash_path)).remove();
+    owns_crash_file = false;
+    if (owner_lock_fd >= 0) {
+        // The lock file goes with the last owner; a second instance still
+        // holding it open keeps its own descriptor.
+        unlink((crash_path + ".lock").c_str());
+        close(owner_lock_fd);
+    }
+    owner_lock_fd = -1;
+}
+
 void LinuxGamma::free_crtcs()
 {
     if (state->crtcs) {
-        for (unsigned int i = 0; i < state->crtc_count; ++i)
+        for (unsigned int i = 0; i < state->crtc_count; ++i) {
             free(state->crtcs[i].saved_ramps);
+            free(state->crtcs[i].block);
+        }
         free(state->crtcs);
     }
     state->crtcs = nullptr;
@@ -182,6 +195,10 @@ int LinuxGamma::start()
     // crash; it is only brought up to date.
     if (!owns_crash_file)
         recover_after_crash();
+    ++ramp_generation;
+    for (unsigned int i = 0; i < count; ++i)
+        state->crtcs[i].last_written =
+            RampCrashFile::fingerprint(state->crtcs[i].saved_ramps, state->crtcs[i].ramp_size);
     keep_ramps_for_recovery();
     return 0;
 }
@@ -220,32 +237,50 @@ void LinuxGamma::recover_after_crash()
     case RampCrashFile::LoadResult::Loaded:
         break;
     }
-    if (!take_saved_ramps_from(kept)) {
+    if (!same_crtcs(kept)) {
         fprintf(stderr, "Ignoring saved ramps in %s: they belong to other CRTCs\n", crash_path.c_str());
         return;
     }
-    if (other_owner_alive)
+    if (other_owner_alive) {
+        take_saved_ramps_from(kept);
         return;
+    }
+    // Only a CRTC that still shows what the dead run wrote holds its tint;
+    // anything else was reset since (a new server, another program), and
+    // the originals in the file would tint it instead of repairing it.
+    int restored = 0, reset = 0;
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
         randr_crtc_state_t& crtc = state->crtcs[i];
+        if (RampCrashFile::fingerprint(crtc.saved_ramps, crtc.ramp_size) != kept[i].last_written) {
+            ++reset;
+            continue;
+        }
+        memcpy(crtc.saved_ramps, kept[i].ramps.data(), 3 * crtc.ramp_size * sizeof(uint16_t));
         if (write_crtc(crtc.crtc, crtc.ramp_size, crtc.saved_ramps) != 0)
             fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
+        ++restored;
     }
-    fprintf(stderr, "Restored the ramps left tinted by an earlier run\n");
+    if (restored > 0)
+        fprintf(stderr, "Restored the ramps left tinted by an earlier run\n");
+    if (reset > 0)
+        fprintf(stderr, "Dropped the saved ramps of %d CRTC(s) in %s: the screen was reset since\n",
+                reset, crash_path.c_str());
 }
 
-bool LinuxGamma::take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept)
+bool LinuxGamma::same_crtcs(const std::vector<KeptCrtcRamps>& kept) const
 {
     bool same = kept.size() == state->crtc_count;
     for (unsigned int i = 0; same && i < state->crtc_count; ++i)
         same = kept[i].crtc == state->crtcs[i].crtc && kept[i].ramp_size == state->crtcs[i].ramp_size;
-    if (!same)
-        return false;
+    return same;
+}
+
+void LinuxGamma::take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept)
+{
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
         randr_crtc_state_t& crtc = state->crtcs[i];
         memcpy(crtc.saved_ramps, kept[i].ramps.data(), 3 * crtc.ramp_size * sizeof(uint16_t));
     }
-    return true;
 }
 
 void LinuxGamma::keep_ramps_for_recovery()
@@ -258,9 +293,11 @@ void LinuxGamma::keep_ramps_for_recovery()
         kept[i].crtc = state->crtcs[i].crtc;
         kept[i].ramp_size = state->crtcs[i].ramp_size;
         kept[i].ramps.assign(state->crtcs[i].saved_ramps, state->crtcs[i].saved_ramps + 3 * state->crtcs[i].ramp_size);
+        kept[i].last_written = state->crtcs[i].last_written;
     }
     if (RampCrashFile(QString::fromStdString(crash_path)).write(kept)) {
         owns_crash_file = true;
+        last_written_moved = false;
     } else {
         fprintf(stderr, "Unable to keep the original ramps in %s\n", crash_path.c_str());
     }
@@ -284,7 +321,32 @@ int LinuxGamma::write_crtc(unsigned int crtc, unsigned int size, const uint16_t*
     return 0;
 }
 
+int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint)
+{
+    const int result = write_crtc(crtc.crtc, crtc.ramp_size, block);
+    if (result == 0 && crtc.last_written != fingerprint) {
+        crtc.last_written = fingerprint;
+        last_written_moved = true;
+    }
+    return result;
+}
+
+// The file follows the screen only when what was written changed: once a
+// second the same ramps are written again, and that needs no file.
+void LinuxGamma::keep_last_written()
+{
+    if (last_written_moved && owns_crash_file)
+        keep_ramps_for_recovery();
+}
+
 int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> ignored, int monitor)
+{
+    const int result = write_temperature(settings, ignored);
+    keep_last_written();
+    return result;
+}
+
+int LinuxGamma::write_temperature(const ColorSettings* settings, const std::vector<int>& ignored)
 {
     if (state->crtc_num >= 0)
         return set_temperature_for_display(state, state->crtc_num, settings);
@@ -321,17 +383,28 @@ int LinuxGamma::set_temperature_for_display(randr_state_t* state, int crtc_index
         return -1;
     }
 
-    const randr_crtc_state_t& crtc = state->crtcs[crtc_index];
-    uint16_t* block = static_cast<uint16_t*>(malloc(3 * crtc.ramp_size * sizeof(uint16_t)));
-    if (!block) {
-        perror("malloc");
-        return -1;
+    randr_crtc_state_t& crtc = state->crtcs[crtc_index];
+    RampKey key;
+    key.temperature = settings->temperature;
+    key.brightness = settings->brightness;
+    for (int c = 0; c < 3; ++c)
+        key.gamma[c] = settings->gamma[c];
+    key.inverted = use_inverted_gamma;
+    key.preserve = state->preserve;
+    key.generation = ramp_generation;
+    if (!crtc.block || !(crtc.block_key == key)) {
+        if (!crtc.block)
+            crtc.block = static_cast<uint16_t*>(malloc(3 * crtc.ramp_size * sizeof(uint16_t)));
+        if (!crtc.block) {
+            perror("malloc");
+            return -1;
+        }
+        CrtcRampBuilder::build(color_ramp, settings, state->preserve != 0, use_inverted_gamma, crtc.saved_ramps,
+                               crtc.ramp_size, crtc.block);
+        crtc.block_key = key;
+        crtc.block_fingerprint = RampCrashFile::fingerprint(crtc.block, crtc.ramp_size);
     }
-    CrtcRampBuilder::build(color_ramp, settings, state->preserve != 0, use_inverted_gamma, crtc.saved_ramps,
-                           crtc.ramp_size, block);
-    const int result = write_crtc(crtc.crtc, crtc.ramp_size, block);
-    free(block);
-    return result;
+    return write_block(crtc, crtc.block, crtc.block_fingerprint);
 }
 
 int LinuxGamma::restore_monitor_colors(int crtc_index)
@@ -349,14 +422,16 @@ int LinuxGamma::restore()
 {
     int result = 0;
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
-        const randr_crtc_state_t& crtc = state->crtcs[i];
+        randr_crtc_state_t& crtc = state->crtcs[i];
         if (!crtc.saved_ramps)
             continue;
-        if (write_crtc(crtc.crtc, crtc.ramp_size, crtc.saved_ramps) != 0) {
+        const uint64_t fingerprint = RampCrashFile::fingerprint(crtc.saved_ramps, crtc.ramp_size);
+        if (write_block(crtc, crtc.saved_ramps, fingerprint) != 0) {
             fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
             result = -1;
         }
     }
+    keep_last_written();
     return result;
 }
 
@@ -376,5 +451,6 @@ int LinuxGamma::reset()
         for (int c = 0; c < 3; ++c)
             CrtcRampBuilder::fill_linear(crtc.saved_ramps + c * crtc.ramp_size, crtc.ramp_size);
     }
+    ++ramp_generation;
     return 0;
 }

@@ -10,11 +10,37 @@
 
 struct KeptCrtcRamps;
 
+// What a built block of ramps was made from.
+struct RampKey
+{
+    int temperature = -1;
+    float brightness = 0.0f;
+    float gamma[3] = {0.0f, 0.0f, 0.0f};
+    bool inverted = false;
+    int preserve = 0;
+    unsigned int generation = 0;
+
+    bool operator==(const RampKey& other) const
+    {
+        return temperature == other.temperature && brightness == other.brightness
+               && gamma[0] == other.gamma[0] && gamma[1] == other.gamma[1]
+               && gamma[2] == other.gamma[2] && inverted == other.inverted
+               && preserve == other.preserve && generation == other.generation;
+    }
+};
+
 struct randr_crtc_state_t
 {
     unsigned int crtc = 0;
     unsigned int ramp_size = 0;
     uint16_t* saved_ramps = nullptr; // red, green, blue; ramp_size entries each
+    // The block last built for this CRTC, kept because the same values are
+    // written again every second.
+    uint16_t* block = nullptr;
+    RampKey block_key;
+    uint64_t block_fingerprint = 0;
+    // Fingerprint of what this backend last wrote to the CRTC.
+    uint64_t last_written = 0;
 };
 
 struct randr_state_t
@@ -56,14 +82,22 @@ public:
     // Where this backend keeps the ramps it found, for a later run to repair
     // a crash; empty before a successful start().
     const std::string& crash_file_path() const { return crash_path; }
+    // Gives up the file and its lock without writing to the display: for a
+    // way out on which the display is gone.
+    void release_crash_file() override;
 
 private:
     void free_crtcs();
     void disconnect();
     int write_crtc(unsigned int crtc, unsigned int size, const uint16_t* block);
+    int write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint);
+    // Brings the file up to date with what was last written, when it moved.
+    void keep_last_written();
     void recover_after_crash();
     void keep_ramps_for_recovery();
-    bool take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept);
+    bool same_crtcs(const std::vector<KeptCrtcRamps>& kept) const;
+    void take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept);
+    int write_temperature(const ColorSettings* settings, const std::vector<int>& ignored);
 
     // Held for as long as this backend keeps the file: a second instance on
     // the same display sees a live owner, not a crash.
@@ -74,4 +108,5 @@ private:
     bool display_given;
     std::string crash_path;
     bool owns_crash_file = false;
+    bool last_written_moved = false;
 };

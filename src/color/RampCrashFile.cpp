@@ -9,7 +9,7 @@
 namespace {
 
 const char MAGIC[8] = {'O', 'V', 'R', 'A', 'R', 'M', 'P', '\n'};
-const uint32_t VERSION = 1;
+const uint32_t VERSION = 2;
 // RandR ramps are 16-bit sized; more CRTCs than this is not a real server.
 const uint32_t MAX_CRTCS = 1024;
 const uint32_t MAX_RAMP_SIZE = 65536;
@@ -102,6 +102,16 @@ QString RampCrashFile::path_for_display(const char* display_name)
     return dir + QStringLiteral("/ovra-ramps-") + key + QStringLiteral(".bin");
 }
 
+uint64_t RampCrashFile::fingerprint(const uint16_t* block, unsigned int size)
+{
+    uint64_t hash = 14695981039346656037ull;
+    for (unsigned int i = 0; i < 3 * size; ++i) {
+        hash ^= block[i];
+        hash *= 1099511628211ull;
+    }
+    return hash;
+}
+
 bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
 {
     QByteArray out;
@@ -111,6 +121,8 @@ bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
     for (const KeptCrtcRamps& crtc : crtcs) {
         put_u32(out, crtc.crtc);
         put_u32(out, crtc.ramp_size);
+        put_u32(out, static_cast<uint32_t>(crtc.last_written));
+        put_u32(out, static_cast<uint32_t>(crtc.last_written >> 32));
     }
     for (const KeptCrtcRamps& crtc : crtcs) {
         if (crtc.ramps.size() != 3 * static_cast<size_t>(crtc.ramp_size))
@@ -165,7 +177,9 @@ RampCrashFile::LoadResult RampCrashFile::load(std::vector<KeptCrtcRamps>* crtcs,
     std::vector<KeptCrtcRamps> loaded(count);
     qsizetype expected = 0;
     for (KeptCrtcRamps& crtc : loaded) {
-        if (!reader.u32(&crtc.crtc) || !reader.u32(&crtc.ramp_size)) {
+        uint32_t low = 0, high = 0;
+        if (!reader.u32(&crtc.crtc) || !reader.u32(&crtc.ramp_size) || !reader.u32(&low)
+            || !reader.u32(&high)) {
             *reason = QStringLiteral("truncated");
             return LoadResult::Invalid;
         }
@@ -173,6 +187,7 @@ RampCrashFile::LoadResult RampCrashFile::load(std::vector<KeptCrtcRamps>* crtcs,
             *reason = QStringLiteral("implausible ramp size %1").arg(crtc.ramp_size);
             return LoadResult::Invalid;
         }
+        crtc.last_written = static_cast<uint64_t>(high) << 32 | low;
         expected += 3 * 2 * static_cast<qsizetype>(crtc.ramp_size);
     }
     if (data.size() - reader.position() != expected + 4) {

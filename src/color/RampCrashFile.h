@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <vector>
 
-// The ramps one CRTC held when the backend started.
+// The ramps one CRTC held when the backend started, and a fingerprint of
+// what the backend wrote to it last.
 struct KeptCrtcRamps
 {
     unsigned int crtc = 0;
     unsigned int ramp_size = 0;
     std::vector<uint16_t> ramps; // red, green, blue; ramp_size entries each
+    uint64_t last_written = 0;
 };
 
 // A small file that keeps the ramps found at start while the program runs,
@@ -25,6 +27,10 @@ public:
     // $XDG_RUNTIME_DIR (or the temp dir) / ovra-ramps-<display>.bin, where
     // <display> names the X display so that ":0" and ":0.0" share a file.
     static QString path_for_display(const char* display_name);
+
+    // The fingerprint of a block of 3 * size entries, red, green, blue. A
+    // CRTC still showing the block last written means nobody reset it since.
+    static uint64_t fingerprint(const uint16_t* block, unsigned int size);
 
     const QString& path() const { return file_path; }
 

@@ -22,9 +22,9 @@ namespace CurveConfigFile {
 // The file of that name in the process's working directory.
 QString path_in_working_directory(const QString& file_name);
 
-// Reads triples until the first of a triple can no longer be read. A triple
-// cut short is kept, with 0 where nothing could be read. A missing file
-// yields no entries.
+// Reads whitespace-separated triples. A missing file yields no entries; an
+// unreadable one, one with anything but whole numbers, or one whose last
+// triple is cut short yields none either, with one line on standard error.
 QVector<CurveConfigEntry> read(const QString& path);
 
 // For every entry, in file order, that covers the present local hour: stores

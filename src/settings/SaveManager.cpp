@@ -225,9 +225,6 @@ void SaveManager::save_settings(int monitor)
     const int night_temperature =
         lookup(settings, SaveKeys::NIGHT_TEMPERATURE + suffix).toInt() / 100 * 100;
 
-    if (host.request_list_texts)
-        host.request_list_texts();
-
     for (const SettingEntry& entry : SettingsTable::basic_keys())
         write_from_map(settings, entry.key, entry.type);
 

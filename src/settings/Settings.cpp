@@ -202,10 +202,8 @@ void Settings::restore_settings()
     emit set_timer_pausers_list(text(s, SaveKeys::TIMER_PAUSERS));
     emit set_mouse_pausers_list(text(s, SaveKeys::MOUSE_PAUSERS));
     emit set_color_triggers_list(text(s, SaveKeys::COLOR_TRIGGERS));
-    emit set_websites_for_blocking(save_manager ? save_manager->get_websites_for_blocking()
-                                                : QString());
-    emit set_applications_for_blocking(
-        save_manager ? save_manager->get_applications_for_blocking() : QString());
+    emit set_websites_for_blocking(text(s, SaveKeys::WEBSITES_FOR_BLOCKING));
+    emit set_applications_for_blocking(text(s, SaveKeys::APPLICATIONS_FOR_BLOCKING));
 
     if (host.refresh_after_lists)
         host.refresh_after_lists();

@@ -35,8 +35,6 @@ struct SettingsHost
     std::function<int()> screen_count;
     // After each restore pass: hands the break lengths to the rest timer.
     std::function<void()> reset_timer;
-    // Before each save pass: asks the page for the text of its six lists.
-    std::function<void()> request_list_texts;
     std::function<RunState()> run_state;
 
     // The restore push.

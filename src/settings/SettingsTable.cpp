@@ -134,16 +134,18 @@ std::vector<SettingEntry> make_pass_keys()
         boolean(COLOR_PAUSERS_PAUSE_ON_FULLSCREEN_APPS, false),
         boolean(TIMER_PAUSERS_PAUSE_ON_FULLSCREEN_APPS, true),
         boolean(MOUSE_PAUSERS_PAUSE_ON_FULLSCREEN_APPS, true),
-        // Restored but written elsewhere: the run state by save_tray_icon,
-        // the lists by the page's answer to the save_*_signal requests.
+        // Restored but written elsewhere: the run state by save_tray_icon.
         not_saved(boolean(IS_CAMERA_ACTIVE, false)),
         not_saved(boolean(IS_COLOR_CHANGES_PAUSED, false)),
         not_saved(boolean(IS_TIMER_PAUSED, true)),
         not_saved(boolean(IS_OVRA_PAUSED, false)),
-        not_saved(text(COLOR_PAUSERS, Defines::DEFAULT_COLOR_PAUSERS)),
-        not_saved(text(TIMER_PAUSERS, Defines::DEFAULT_TIMER_PAUSERS)),
-        not_saved(text(MOUSE_PAUSERS, Defines::DEFAULT_MOUSE_PAUSERS)),
-        not_saved(text(COLOR_TRIGGERS, Defines::DEFAULT_COLOR_TRIGGERS)),
+        // The lists, as the user last edited them on the page.
+        text(COLOR_PAUSERS, Defines::DEFAULT_COLOR_PAUSERS),
+        text(TIMER_PAUSERS, Defines::DEFAULT_TIMER_PAUSERS),
+        text(MOUSE_PAUSERS, Defines::DEFAULT_MOUSE_PAUSERS),
+        text(COLOR_TRIGGERS, Defines::DEFAULT_COLOR_TRIGGERS),
+        text(WEBSITES_FOR_BLOCKING, ""),
+        text(APPLICATIONS_FOR_BLOCKING, ""),
         // Hotkeys.
         text(INCREASE_TEMPERATURE_HOTKEY, Defines::DEFAULT_INCREASE_TEMPERATURE_HOTKEY),
         text(DECREASE_TEMPERATURE_HOTKEY, Defines::DEFAULT_DECREASE_TEMPERATURE_HOTKEY),

@@ -42,7 +42,7 @@ float ClockPosition::get_interpolated_color_temperature(ClockInterpolationValues
 double ClockPosition::calculate_interpolation_value_from_time(ClockInterpolationValues v)
 {
     const double now = Clock::instance()->now_msecs_since_epoch() / 1000.0;
-    const double m = Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
+    const double m = Clock::instance()->today_midnight_msecs() / 1000.0;
 
     double night_end = time_of_day_seconds(v.night_end_hours, v.night_end_minutes);
     double night_start = time_of_day_seconds(v.night_start_hours, v.night_start_minutes);
@@ -102,7 +102,7 @@ void ClockPosition::set_transition_type(TransitionType type)
 bool ClockPosition::is_day_mode(ClockInterpolationValues v)
 {
     const double now = Clock::instance()->now_msecs_since_epoch() / 1000.0;
-    const double m = Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
+    const double m = Clock::instance()->today_midnight_msecs() / 1000.0;
     return now > m + time_of_day_seconds(v.night_end_hours, v.night_end_minutes) &&
            now < m + time_of_day_seconds(v.night_start_hours, v.night_start_minutes);
 }

@@ -14,7 +14,7 @@ double now_seconds()
 
 double midnight_seconds()
 {
-    return Clock::instance()->today_midnight().toMSecsSinceEpoch() / 1000.0;
+    return Clock::instance()->today_midnight_msecs() / 1000.0;
 }
 
 using day_curve::start_of_ramp;

@@ -66,8 +66,21 @@ void Sun::setCurrentDate(int year, int month, int day)
 
 double Sun::sun_event_v2(bool rise)
 {
-    const QDateTime now = Clock::instance()->now().toLocalTime();
+    const QDateTime now = Clock::instance()->now();
+    // The event depends on the local date and on the whole UTC day the
+    // cycle is counted from; both can change at different moments.
+    const qint64 local_day = now.date().toJulianDay();
+    const qint64 utc_day = now.toMSecsSinceEpoch() / qint64(86400000);
+    CachedEvent& cached = cached_events[rise ? 0 : 1];
+    if (!cached.valid || cached.local_day != local_day || cached.utc_day != utc_day
+        || cached.latitude != latitude || cached.longitude != longitude) {
+        cached = {true, local_day, utc_day, latitude, longitude, compute_sun_event_v2(rise, now)};
+    }
+    return cached.msecs;
+}
 
+double Sun::compute_sun_event_v2(bool rise, const QDateTime& now)
+{
     const double lw = rad * -longitude;
     const double phi = rad * latitude;
     const double d = toDays(now);

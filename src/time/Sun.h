@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDateTime>
+
 // Sunrise and sunset for a place. Two calculators live side by side: the V2
 // members, built on the free functions of SunCalc.h, which the day curve
 // uses, and an older calculator after the NOAA solar calculator, kept as a
@@ -54,6 +56,20 @@ public:
 
 private:
     double sun_event_v2(bool rise);
+    double compute_sun_event_v2(bool rise, const QDateTime& now);
+
+    // Rise and set change only with the day and the place; the curve asks
+    // for them every second.
+    struct CachedEvent
+    {
+        bool valid = false;
+        qint64 local_day = 0;
+        qint64 utc_day = 0;
+        double latitude = 0.0;
+        double longitude = 0.0;
+        double msecs = 0.0;
+    };
+    CachedEvent cached_events[2];
     double sun_event_utc(bool rise);
 
     double latitude;

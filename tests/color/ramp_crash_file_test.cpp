@@ -61,8 +61,9 @@ TEST(RampCrashFile, LayoutIsMagicVersionIdsSizesRampsChecksum)
     RampCrashFile file(dir.filePath("ramps.bin"));
     ASSERT_TRUE(file.write(two_crtcs()));
     const QByteArray data = read_all(file.path());
-    // 8 magic + 4 version + 4 count + 2 * 8 ids and sizes + (12 + 6) * 2 ramps + 4 checksum
-    EXPECT_EQ(data.size(), 8 + 4 + 4 + 16 + 36 + 4);
+    // 8 magic + 4 version + 4 count + 2 * 16 ids, sizes and last written
+    // + (12 + 6) * 2 ramps + 4 checksum
+    EXPECT_EQ(data.size(), 8 + 4 + 4 + 32 + 36 + 4);
     EXPECT_EQ(data.left(4), QByteArray("OVRA"));
     EXPECT_EQ(static_cast<unsigned char>(data[16]), 63); // first CRTC id, little-endian
     EXPECT_EQ(static_cast<unsigned char>(data[20]), 4);  // its ramp size

@@ -88,17 +88,21 @@ TEST_F(Values, AMonitorsValueLivesUnderItsOwnKeys)
     EXPECT_EQ(window->get_night_brightness(1), 65);
 }
 
-TEST_F(Values, AnUnwrittenMonitorKeyReadsAsZero)
+// A monitor plugged in later has no values of its own: it takes the shared
+// ones, never 0 K and 0 %.
+TEST_F(Values, AMonitorWithoutValuesTakesTheSharedOnes)
 {
     store_values["SleepLight"] = 3000;
+    store_values["UsePerMonitorSettings"] = true;
     start_quiet();
-    EXPECT_EQ(window->get_day_temperature(7), 0);
-    EXPECT_EQ(window->get_night_temperature(7), 0);
-    EXPECT_EQ(window->get_sleep_temperature(7), 0);
-    EXPECT_EQ(window->get_day_brightness(7), 0);
-    EXPECT_EQ(window->get_night_brightness(7), 0);
-    EXPECT_EQ(window->get_sleep_brightness(7), 0);
-    EXPECT_EQ(window->get_sleep_temperature(0), 3000);
+    EXPECT_EQ(window->get_day_temperature(7), window->get_day_temperature(0));
+    EXPECT_EQ(window->get_night_temperature(7), window->get_night_temperature(0));
+    EXPECT_EQ(window->get_sleep_temperature(7), 3000);
+    EXPECT_EQ(window->get_day_brightness(7), window->get_day_brightness(0));
+    EXPECT_EQ(window->get_night_brightness(7), window->get_night_brightness(0));
+    EXPECT_EQ(window->get_sleep_brightness(7), window->get_sleep_brightness(0));
+    EXPECT_GT(window->get_interpolated_color_temperature(7), 1000.0f);
+    EXPECT_GT(window->get_interpolated_brightness(7), 10.0f);
 }
 
 TEST_F(Values, EachValueSlotWritesItsKeyAndShadowAndShowsIt)

@@ -24,7 +24,6 @@ protected:
     std::vector<int> ignored_monitors;
     int screens = 1;
     int reset_timer_calls = 0;
-    int list_requests = 0;
     RunState run_state;
     bool has_run_state = false;
 
@@ -38,7 +37,6 @@ protected:
             host.ignored_monitors = &ignored_monitors;
             host.screen_count = [this] { return screens; };
             host.reset_timer = [this] { ++reset_timer_calls; };
-            host.request_list_texts = [this] { ++list_requests; };
             if (has_run_state)
                 host.run_state = [this] { return run_state; };
             return host;

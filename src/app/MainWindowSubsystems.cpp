@@ -1,0 +1,100 @@
+// Where the controller calls the subsystems that own breaks, the tray, the
+// overlays and the watched applications. Each is null until it exists, and
+// the controller then behaves as the program does without it.
+#include "app/MainWindow.h"
+#include "breaks/IRestTimer.h"
+#include "overlays/IScreenOverlays.h"
+#include "settings/ChangeRule.h"
+#include "settings/SaveKeys.h"
+#include "tray/ITrayIcon.h"
+
+void MainWindow::update_ovra_status()
+{
+    if (tray_icon)
+        tray_icon->refresh_status();
+}
+
+void MainWindow::refresh_pause_dependents()
+{
+    if (tray_icon)
+        tray_icon->refresh_tray_icon_actions();
+    refresh_overlay_screens(false);
+}
+
+// ---------------------------------------------------------------- breaks
+
+void MainWindow::reset_timer()
+{
+    if (rest_timer)
+        rest_timer->reset_timer();
+}
+
+void MainWindow::start_rest_timer()
+{
+    if (rest_timer)
+        rest_timer->start_rest_timer();
+}
+
+void MainWindow::stop_rest_timer()
+{
+    if (rest_timer)
+        rest_timer->stop_rest_timer();
+}
+
+void MainWindow::update_idle_time()
+{
+    if (settings[SaveKeys::IS_TIMER_PAUSED].toBool())
+        return;
+    if (!settings[SaveKeys::USE_MOUSE_INACTIVITY].toBool()
+        && !settings[SaveKeys::USE_KEYBOARD_INACTIVITY].toBool()) {
+        if (idle_paused) {
+            idle_paused = false;
+            start_rest_timer();
+        }
+        return;
+    }
+    ++idle_seconds;
+    if (idle_seconds > 120) {
+        if (rest_timer && !rest_timer->is_rest_started() && !idle_paused) {
+            idle_paused = true;
+            stop_rest_timer();
+        }
+    } else if (idle_paused) {
+        idle_paused = false;
+        start_rest_timer();
+    }
+}
+
+// ---------------------------------------------------------------- overlays
+
+void MainWindow::update_overlay_screen()
+{
+    if (overlays)
+        overlays->update();
+}
+
+void MainWindow::refresh_overlay_screens(bool force)
+{
+    if (overlays)
+        overlays->refresh_overlay_screens(force);
+}
+
+void MainWindow::refresh_lightness_screens(bool force)
+{
+    if (overlays)
+        overlays->refresh_lightness_screens(force);
+}
+
+void MainWindow::use_overlay_screen_changed(bool value)
+{
+    change_setting(settings, QString::fromLatin1(SaveKeys::USE_OVERLAY_SCREEN), value,
+                   [this] { refresh_overlay_screens(false); },
+                   [this](const QVariant& stored) { emit set_use_overlay_screen(stored.toBool()); });
+}
+
+void MainWindow::use_lightness_screen_changed(bool value)
+{
+    change_setting(settings, QString::fromLatin1(SaveKeys::USE_LIGHTNESS_SCREEN), value,
+                   [this] { refresh_lightness_screens(false); },
+                   [this](const QVariant& stored) { emit set_use_lightness_screen(stored.toBool()); });
+}
