@@ -236,6 +236,7 @@ int main(int argc, char** argv)
     if (!has_flag(argc, argv, "--benchmark_repetitions"))
         args.insert(args.end(), {repetitions, interleave, summaries});
     int count = static_cast<int>(args.size());
+    args.push_back(nullptr);
     benchmark::Initialize(&count, args.data());
     RatioReporter reporter(isatty(STDOUT_FILENO) ? benchmark::ConsoleReporter::OO_ColorTabular
                                                  : benchmark::ConsoleReporter::OO_Tabular);
