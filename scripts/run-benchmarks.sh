@@ -6,7 +6,8 @@ for b in "$build"/bench/*_bench; do
   echo "== $(basename "$b")"
   ./tests/tools/isolated "$b" --benchmark_min_time=0.2 || echo "(failed: $b)"
 done
-for s in bench/*.sh bench/*.py; do
+# Modules that the scripts share are not benchmarks of their own.
+for s in bench/*_bench.sh bench/*_bench.py; do
   [ -f "$s" ] || continue
   echo "== $(basename "$s")"
   case "$s" in

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+#include <xcb/randr.h>
+#include <xcb/xcb.h>
+
+// The ramps of every CRTC of one X screen, taken from the server once and
+// written back unchanged: the least any program that keeps a tint on the
+// screen has to do. Each write waits for the server's answer, as the
+// product's backend does, so that the two cost the same round trips.
+class CrtcRamps
+{
+public:
+    CrtcRamps() = default;
+    ~CrtcRamps();
+    CrtcRamps(const CrtcRamps&) = delete;
+    CrtcRamps& operator=(const CrtcRamps&) = delete;
+
+    // Connects to `display` ($DISPLAY when null) and reads the CRTCs and the
+    // ramps they hold now. 0 or -1.
+    int open(const char* display = nullptr);
+    // Takes the ramps the server holds now, replacing those read before.
+    int read();
+    // One checked SetCrtcGamma a CRTC with the ramps last read. 0 or -1.
+    int write() const;
+
+    int crtc_count() const { return static_cast<int>(crtcs.size()); }
+
+private:
+    struct Crtc
+    {
+        xcb_randr_crtc_t id = 0;
+        uint16_t size = 0;
+        std::vector<uint16_t> ramps; // red, green, blue; `size` entries each
+    };
+
+    xcb_connection_t* conn = nullptr;
+    std::vector<Crtc> crtcs;
+};
