@@ -44,7 +44,7 @@ bool BridgeServer::listen(quint16 requested_port)
         std::fprintf(stderr, "Ovra web bridge: already listening on port %u\n", unsigned(bound_port));
         return false;
     }
-    auto* tcp = new QTcpServer(this);
+    auto* tcp = new QTcpServer;
     if (!tcp->listen(QHostAddress::LocalHost, requested_port)) {
         std::fprintf(stderr, "Ovra web bridge: cannot listen on 127.0.0.1 port %u: %s\n",
                      unsigned(requested_port), tcp->errorString().toUtf8().constData());
@@ -56,6 +56,7 @@ bool BridgeServer::listen(quint16 requested_port)
     http = new BridgeHttpServer(*gate, *files, [this](const QString& window) { return resolve(window) != nullptr; },
                                 this);
     http->bind(tcp);
+    tcp->setParent(http);
     connect(http, &QAbstractHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
     return true;
 }
