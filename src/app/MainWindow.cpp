@@ -141,18 +141,24 @@ void MainWindow::setup_timers()
 {
     update_timer = new QTimer(this);
     update_timer->setInterval(1000);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_ui);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_gamma);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_overlay_screen);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_idle_time);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_smart_brightness);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::update_smart_inversion);
-    connect(update_timer, &QTimer::timeout, this, &MainWindow::fix_gamma);
+    connect(update_timer, &QTimer::timeout, this, &MainWindow::second_tick);
     update_timer->start();
 
     fade_timer = new QTimer(this);
     fade_timer->setInterval(10);
     connect(fade_timer, &QTimer::timeout, this, &MainWindow::fade_window);
+}
+
+// Everything that happens once a second, in the order the parts rely on.
+void MainWindow::second_tick()
+{
+    update_ui();
+    update_gamma();
+    update_overlay_screen();
+    update_idle_time();
+    update_smart_brightness();
+    update_smart_inversion();
+    fix_gamma();
 }
 
 void MainWindow::setup_signal_handlers()

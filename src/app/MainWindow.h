@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "base/Singleton.h"
+#include "settings/SaveKeys.h"
+#include "settings/SettingRef.h"
 #include "color/ColorFades.h"
 #include "policy/BrightnessConfigManager.h"
 #include "policy/TemperatureConfigManager.h"
@@ -170,6 +172,7 @@ private:
     void setup_window_attributes() {}
     void set_window_opacity(double) {}
     void setup_timers();
+    void second_tick();
     void setup_gamma_timers();
     void setup_signal_handlers();
     void setup_last_words();
@@ -218,6 +221,9 @@ private:
     bool ui_created = false;
     bool fix_gamma_requested = false;
     bool quitting = false;
+    // Read by the tick every second.
+    SettingRef ovra_paused_setting{settings, SaveKeys::IS_OVRA_PAUSED};
+    SettingRef color_changes_paused_setting{settings, SaveKeys::IS_COLOR_CHANGES_PAUSED};
     bool color_changes_auto_paused = false;
     QString applied_color_trigger;
 

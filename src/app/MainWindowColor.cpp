@@ -172,18 +172,18 @@ int MainWindow::get_sleep_brightness(int monitor)
 
 bool MainWindow::is_gamma_paused()
 {
-    return settings[SaveKeys::IS_COLOR_CHANGES_PAUSED].toBool() || color_changes_auto_paused
-           || settings[SaveKeys::IS_OVRA_PAUSED].toBool();
+    return color_changes_paused_setting.to_bool() || color_changes_auto_paused
+           || ovra_paused_setting.to_bool();
 }
 
 bool MainWindow::is_ovra_paused()
 {
-    return settings[SaveKeys::IS_OVRA_PAUSED].toBool();
+    return ovra_paused_setting.to_bool();
 }
 
 bool MainWindow::is_color_changes_paused()
 {
-    return settings[SaveKeys::IS_COLOR_CHANGES_PAUSED].toBool();
+    return color_changes_paused_setting.to_bool();
 }
 
 bool MainWindow::use_inverted_colors()

@@ -7,39 +7,39 @@
 #include "time/SolarInterpolationValues.h"
 #include "time/SolarPosition.h"
 
-namespace {
-// Built once: the curve reads some twenty keys a second.
-struct CurveKeys
+// Every setting the curves read, found once: the curve runs every second,
+// and during a fade forty times a second.
+struct ColorCurve::Inputs
 {
-    QString manual_night_duration = QString::fromLatin1(SaveKeys::USE_MANUAL_NIGHT_DURATION);
-    QString use_sleep_light = QString::fromLatin1(SaveKeys::USE_SLEEP_LIGHT);
-    QString day_transition = QString::fromLatin1(SaveKeys::DAY_TRANSITION_DURATION);
-    QString night_transition = QString::fromLatin1(SaveKeys::NIGHT_TRANSITION_DURATION);
-    QString sleep_transition = QString::fromLatin1(SaveKeys::SLEEP_TRANSITION_DURATION);
-    QString bedtime_hours = QString::fromLatin1(SaveKeys::BEDTIME_HOURS);
-    QString bedtime_minutes = QString::fromLatin1(SaveKeys::BEDTIME_MINUTES);
-    QString wake_hours = QString::fromLatin1(SaveKeys::WAKE_TIME_HOURS);
-    QString wake_minutes = QString::fromLatin1(SaveKeys::WAKE_TIME_MINUTES);
-    QString time_zone_offset = QString::fromLatin1(SaveKeys::TIME_ZONE_OFFSET);
-    QString new_moon_offset = QString::fromLatin1(SaveKeys::NEW_MOON_OFFSET);
-    QString full_moon_offset = QString::fromLatin1(SaveKeys::FULL_MOON_OFFSET);
-    QString night_start_hours = QString::fromLatin1(SaveKeys::NIGHT_START_TIME_HOURS);
-    QString night_start_minutes = QString::fromLatin1(SaveKeys::NIGHT_START_TIME_MINUTES);
-    QString night_end_hours = QString::fromLatin1(SaveKeys::NIGHT_END_TIME_HOURS);
-    QString night_end_minutes = QString::fromLatin1(SaveKeys::NIGHT_END_TIME_MINUTES);
+    explicit Inputs(const SettingsMap& s)
+        : manual_night_duration(s, SaveKeys::USE_MANUAL_NIGHT_DURATION)
+        , use_sleep_light(s, SaveKeys::USE_SLEEP_LIGHT)
+        , day_transition(s, SaveKeys::DAY_TRANSITION_DURATION)
+        , night_transition(s, SaveKeys::NIGHT_TRANSITION_DURATION)
+        , sleep_transition(s, SaveKeys::SLEEP_TRANSITION_DURATION)
+        , bedtime_hours(s, SaveKeys::BEDTIME_HOURS)
+        , bedtime_minutes(s, SaveKeys::BEDTIME_MINUTES)
+        , wake_hours(s, SaveKeys::WAKE_TIME_HOURS)
+        , wake_minutes(s, SaveKeys::WAKE_TIME_MINUTES)
+        , time_zone_offset(s, SaveKeys::TIME_ZONE_OFFSET)
+        , new_moon_offset(s, SaveKeys::NEW_MOON_OFFSET)
+        , full_moon_offset(s, SaveKeys::FULL_MOON_OFFSET)
+        , night_start_hours(s, SaveKeys::NIGHT_START_TIME_HOURS)
+        , night_start_minutes(s, SaveKeys::NIGHT_START_TIME_MINUTES)
+        , night_end_hours(s, SaveKeys::NIGHT_END_TIME_HOURS)
+        , night_end_minutes(s, SaveKeys::NIGHT_END_TIME_MINUTES)
+    {
+    }
+    SettingRef manual_night_duration, use_sleep_light, day_transition, night_transition,
+        sleep_transition, bedtime_hours, bedtime_minutes, wake_hours, wake_minutes,
+        time_zone_offset, new_moon_offset, full_moon_offset, night_start_hours,
+        night_start_minutes, night_end_hours, night_end_minutes;
 };
 
-const CurveKeys& keys()
-{
-    static const CurveKeys k;
-    return k;
-}
-} // namespace
-
 // The keys of one quantity the curves interpolate.
-struct ColorCurve::Keys
+struct ColorCurve::Quantity
 {
-    QString manual;
+    SettingRef manual;
     const char* day;
     const char* night;
     const char* sleep;
@@ -47,37 +47,56 @@ struct ColorCurve::Keys
 };
 
 ColorCurve::ColorCurve(const SettingsMap& settings, const double& latitude, const double& longitude)
-    : settings(settings), latitude(latitude), longitude(longitude)
+    : settings(settings)
+    , latitude(latitude)
+    , longitude(longitude)
+    , inputs(new Inputs(settings))
+    , temperature_keys(new Quantity{{settings, SaveKeys::USE_MANUAL_COLOR_SETTINGS},
+                                    SaveKeys::DAY_TEMPERATURE,
+                                    SaveKeys::NIGHT_TEMPERATURE,
+                                    SaveKeys::SLEEP_LIGHT,
+                                    false})
+    , brightness_keys(new Quantity{{settings, SaveKeys::USE_MANUAL_BRIGHTNESS},
+                                   SaveKeys::DAY_BRIGHTNESS,
+                                   SaveKeys::NIGHT_BRIGHTNESS,
+                                   SaveKeys::SLEEP_BRIGHTNESS,
+                                   true})
 {
 }
 
-QVariant ColorCurve::stored(const QString& key) const
+ColorCurve::~ColorCurve() = default;
+
+const SettingRef& ColorCurve::ref(const char* key, int monitor) const
 {
-    const auto found = settings.find(key);
-    return found == settings.end() ? QVariant() : found->second;
+    const auto place = std::make_pair(key, monitor);
+    auto found = monitor_refs.find(place);
+    if (found == monitor_refs.end())
+        found = monitor_refs.emplace(place, SettingRef(settings, SettingsTable::monitor_key(key, monitor)))
+                    .first;
+    return found->second;
 }
 
 int ColorCurve::monitor_value(const char* key, int monitor) const
 {
     if (monitor != 0) {
-        const QVariant own = stored(SettingsTable::monitor_key(key, monitor));
+        const QVariant& own = ref(key, monitor).value();
         if (own.isValid())
             return own.toInt();
     }
-    return stored(QString::fromLatin1(key)).toInt();
+    return ref(key, 0).to_int();
 }
 
 bool ColorCurve::uses_solar_curve() const
 {
-    return !stored(keys().manual_night_duration).toBool() && latitude != -1.0 && longitude != -1.0;
+    return !inputs->manual_night_duration.to_bool() && latitude != -1.0 && longitude != -1.0;
 }
 
-float ColorCurve::evaluate(const Keys& k, int monitor) const
+float ColorCurve::evaluate(const Quantity& q, int monitor) const
 {
-    const bool manual = stored(k.manual).toBool();
-    const float day = monitor_value(k.day, monitor);
-    const float night = monitor_value(k.night, monitor);
-    const float sleep = monitor_value(k.sleep, monitor);
+    const bool manual = q.manual.to_bool();
+    const float day = monitor_value(q.day, monitor);
+    const float night = monitor_value(q.night, monitor);
+    const float sleep = monitor_value(q.sleep, monitor);
     auto put_values = [&](auto& values) {
         values.use_manual_value = manual;
         values.day_value = day;
@@ -89,31 +108,25 @@ float ColorCurve::evaluate(const Keys& k, int monitor) const
         fill(&values);
         put_values(values);
         SolarPosition* sun = SolarPosition::s_instance;
-        return k.brightness ? sun->get_interpolated_brightness(values)
+        return q.brightness ? sun->get_interpolated_brightness(values)
                             : sun->get_interpolated_color_temperature(values);
     }
     ClockInterpolationValues values;
     fill(&values);
     put_values(values);
     ClockPosition* clock = ClockPosition::s_instance;
-    return k.brightness ? clock->get_interpolated_brightness(values)
+    return q.brightness ? clock->get_interpolated_brightness(values)
                         : clock->get_interpolated_color_temperature(values);
 }
 
 float ColorCurve::temperature(int monitor) const
 {
-    static const Keys k{QString::fromLatin1(SaveKeys::USE_MANUAL_COLOR_SETTINGS),
-                        SaveKeys::DAY_TEMPERATURE, SaveKeys::NIGHT_TEMPERATURE,
-                        SaveKeys::SLEEP_LIGHT, false};
-    return evaluate(k, monitor);
+    return evaluate(*temperature_keys, monitor);
 }
 
 float ColorCurve::brightness(int monitor) const
 {
-    static const Keys k{QString::fromLatin1(SaveKeys::USE_MANUAL_BRIGHTNESS),
-                        SaveKeys::DAY_BRIGHTNESS, SaveKeys::NIGHT_BRIGHTNESS,
-                        SaveKeys::SLEEP_BRIGHTNESS, true};
-    return evaluate(k, monitor);
+    return evaluate(*brightness_keys, monitor);
 }
 
 TransitionType ColorCurve::transition_type() const
@@ -125,35 +138,35 @@ TransitionType ColorCurve::transition_type() const
 
 void ColorCurve::fill(SolarInterpolationValues* values) const
 {
-    const CurveKeys& k = keys();
+    const Inputs& in = *inputs;
     values->latitude = static_cast<float>(latitude);
     values->longitude = static_cast<float>(longitude);
-    values->use_sleep_light = stored(k.use_sleep_light).toBool();
-    values->day_transition_duration = stored(k.day_transition).toInt();
-    values->night_transition_duration = stored(k.night_transition).toInt();
-    values->sleep_transition_duration = stored(k.sleep_transition).toInt();
-    values->bedtime_hours = stored(k.bedtime_hours).toInt();
-    values->bedtime_minutes = stored(k.bedtime_minutes).toInt();
-    values->wake_time_hours = stored(k.wake_hours).toInt();
-    values->wake_time_minutes = stored(k.wake_minutes).toInt();
-    values->time_zone_offset = stored(k.time_zone_offset).toInt();
-    values->new_moon_offset = stored(k.new_moon_offset).toInt();
-    values->full_moon_offset = stored(k.full_moon_offset).toInt();
+    values->use_sleep_light = in.use_sleep_light.to_bool();
+    values->day_transition_duration = in.day_transition.to_int();
+    values->night_transition_duration = in.night_transition.to_int();
+    values->sleep_transition_duration = in.sleep_transition.to_int();
+    values->bedtime_hours = in.bedtime_hours.to_int();
+    values->bedtime_minutes = in.bedtime_minutes.to_int();
+    values->wake_time_hours = in.wake_hours.to_int();
+    values->wake_time_minutes = in.wake_minutes.to_int();
+    values->time_zone_offset = in.time_zone_offset.to_int();
+    values->new_moon_offset = in.new_moon_offset.to_int();
+    values->full_moon_offset = in.full_moon_offset.to_int();
 }
 
 void ColorCurve::fill(ClockInterpolationValues* values) const
 {
-    const CurveKeys& k = keys();
-    values->use_sleep_light = stored(k.use_sleep_light).toBool();
-    values->day_transition_duration = stored(k.day_transition).toInt();
-    values->night_transition_duration = stored(k.night_transition).toInt();
-    values->sleep_transition_duration = stored(k.sleep_transition).toInt();
-    values->night_start_hours = stored(k.night_start_hours).toInt();
-    values->night_start_minutes = stored(k.night_start_minutes).toInt();
-    values->night_end_hours = stored(k.night_end_hours).toInt();
-    values->night_end_minutes = stored(k.night_end_minutes).toInt();
-    values->bedtime_hours = stored(k.bedtime_hours).toInt();
-    values->bedtime_minutes = stored(k.bedtime_minutes).toInt();
-    values->wake_time_hours = stored(k.wake_hours).toInt();
-    values->wake_time_minutes = stored(k.wake_minutes).toInt();
+    const Inputs& in = *inputs;
+    values->use_sleep_light = in.use_sleep_light.to_bool();
+    values->day_transition_duration = in.day_transition.to_int();
+    values->night_transition_duration = in.night_transition.to_int();
+    values->sleep_transition_duration = in.sleep_transition.to_int();
+    values->night_start_hours = in.night_start_hours.to_int();
+    values->night_start_minutes = in.night_start_minutes.to_int();
+    values->night_end_hours = in.night_end_hours.to_int();
+    values->night_end_minutes = in.night_end_minutes.to_int();
+    values->bedtime_hours = in.bedtime_hours.to_int();
+    values->bedtime_minutes = in.bedtime_minutes.to_int();
+    values->wake_time_hours = in.wake_hours.to_int();
+    values->wake_time_minutes = in.wake_minutes.to_int();
 }

@@ -5,26 +5,14 @@
 #include "color/IGamma.h"
 #include "settings/SaveKeys.h"
 
-namespace {
-struct TickKeys
-{
-    QString per_monitor = QString::fromLatin1(SaveKeys::USE_PER_MONITOR_SETTINGS);
-    QString pwm_continuously = QString::fromLatin1(SaveKeys::PWM_UPDATE_CONTINUOUSLY);
-    QString low_level = QString::fromLatin1(SaveKeys::USE_LOW_LEVEL_COLOR_API);
-    QString color_effect = QString::fromLatin1(SaveKeys::COLOR_EFFECT);
-};
 
-const TickKeys& keys()
-{
-    static const TickKeys k;
-    return k;
-}
-} // namespace
-
-ColorTick::ColorTick(SettingsMap& settings, const ColorCurve& curve, IGamma* const& gamma,
+ColorTick::ColorTick(const SettingsMap& settings, const ColorCurve& curve, IGamma* const& gamma,
                      const std::vector<int>& ignored_monitors, int& current_temperature,
                      int& current_brightness, TickHooks hooks)
-    : settings(settings)
+    : per_monitor(settings, SaveKeys::USE_PER_MONITOR_SETTINGS)
+    , pwm_continuously(settings, SaveKeys::PWM_UPDATE_CONTINUOUSLY)
+    , low_level(settings, SaveKeys::USE_LOW_LEVEL_COLOR_API)
+    , color_effect(settings, SaveKeys::COLOR_EFFECT)
     , curve(curve)
     , gamma(gamma)
     , ignored_monitors(ignored_monitors)
@@ -32,12 +20,6 @@ ColorTick::ColorTick(SettingsMap& settings, const ColorCurve& curve, IGamma* con
     , current_brightness(current_brightness)
     , hooks(std::move(hooks))
 {
-}
-
-bool ColorTick::setting(const QString& key) const
-{
-    const auto found = settings.find(key);
-    return found != settings.end() && found->second.toBool();
 }
 
 float ColorTick::brightness(int monitor) const
@@ -68,14 +50,14 @@ int ColorTick::update()
     hooks.refresh_fixer();
 
     int result = 0;
-    if (setting(keys().per_monitor)) {
+    if (per_monitor.to_bool()) {
         const int count = hooks.screen_count();
         for (int monitor = 1; monitor <= count; ++monitor)
             result = update_monitor(monitor);
     } else {
         result = update_monitor(0);
     }
-    if (setting(keys().pwm_continuously))
+    if (pwm_continuously.to_bool())
         hooks.after_update();
     return result;
 }
@@ -93,15 +75,14 @@ int ColorTick::update_monitor(int monitor)
 int ColorTick::write(ColorSettings* color_settings, int monitor)
 {
     color_settings->gamma[0] = color_settings->gamma[1] = color_settings->gamma[2] = 1.0f;
-    const auto effect = settings.find(keys().color_effect);
     int result = 0;
-    if (setting(keys().low_level) && gamma) {
+    if (low_level.to_bool() && gamma) {
         result = gamma->set_temperature(color_settings, ignored_monitors, monitor);
         if (result < 0)
             result = 0;
     }
     last_brightness_value = color_settings->brightness;
-    last_color_effect = effect == settings.end() ? 0 : effect->second.toInt();
+    last_color_effect = color_effect.to_int();
     last_temperature_value = color_settings->temperature;
     return result;
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "settings/SettingRef.h"
 #include "settings/SettingsHost.h"
 
 class ColorCurve;
@@ -33,7 +34,7 @@ struct TickHooks
 class ColorTick
 {
 public:
-    ColorTick(SettingsMap& settings, const ColorCurve& curve, IGamma* const& gamma,
+    ColorTick(const SettingsMap& settings, const ColorCurve& curve, IGamma* const& gamma,
               const std::vector<int>& ignored_monitors, int& current_temperature,
               int& current_brightness, TickHooks hooks);
 
@@ -53,9 +54,11 @@ public:
 
 private:
     int update_monitor(int monitor);
-    bool setting(const QString& key) const;
 
-    SettingsMap& settings;
+    SettingRef per_monitor;
+    SettingRef pwm_continuously;
+    SettingRef low_level;
+    SettingRef color_effect;
     const ColorCurve& curve;
     IGamma* const& gamma;
     const std::vector<int>& ignored_monitors;

@@ -9,6 +9,8 @@
 #include <map>
 #include <vector>
 
+// The working copy of every setting. Keys are added, never erased: readers
+// that run every second keep the place of a value (SettingRef).
 using SettingsMap = std::map<QString, QVariant>;
 
 // The live pause state that save_tray_icon writes.

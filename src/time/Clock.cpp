@@ -6,31 +6,45 @@ namespace {
 Clock system_clock;
 Clock* installed_clock = nullptr;
 
-// localtime_r keeps the zone it read first; tzset reads it again. Once a
-// minute is often enough to follow a user who changes the zone.
-struct tm local_fields(time_t seconds)
-{
-    static time_t zone_read_at = 0;
-    if (seconds - zone_read_at >= 60 || seconds < zone_read_at) {
-        tzset();
-        zone_read_at = seconds;
-    }
-    struct tm fields {};
-    localtime_r(&seconds, &fields);
-    return fields;
-}
-
 time_t whole_seconds(qint64 msecs)
 {
     return static_cast<time_t>(msecs >= 0 ? msecs / 1000 : (msecs - 999) / 1000);
+}
+
+// The local offset and midnight of the present minute. Offsets change only
+// at whole minutes, so one look a minute is exact; that look also reads the
+// zone again (localtime_r keeps the zone it read first, tzset reads it
+// anew), so a user who changes the zone is followed within a minute.
+struct LocalMinute
+{
+    time_t minute = -1;
+    long offset = 0;
+    time_t midnight = 0;
+};
+
+const LocalMinute& local_minute(time_t seconds)
+{
+    static LocalMinute cached;
+    const time_t minute = seconds - ((seconds % 60) + 60) % 60;
+    if (minute == cached.minute)
+        return cached;
+    tzset();
+    struct tm fields {};
+    localtime_r(&minute, &fields);
+    const time_t guess = minute - (fields.tm_hour * 3600 + fields.tm_min * 60);
+    // On the day the clocks change, midnight had another offset than now.
+    struct tm at_guess {};
+    localtime_r(&guess, &at_guess);
+    cached = {minute, fields.tm_gmtoff, guess + (fields.tm_gmtoff - at_guess.tm_gmtoff)};
+    return cached;
 }
 } // namespace
 
 QDateTime Clock::now() const
 {
     const qint64 msecs = QDateTime::currentMSecsSinceEpoch();
-    const struct tm fields = local_fields(whole_seconds(msecs));
-    return QDateTime::fromMSecsSinceEpoch(msecs, Qt::OffsetFromUTC, static_cast<int>(fields.tm_gmtoff));
+    const LocalMinute& local = local_minute(whole_seconds(msecs));
+    return QDateTime::fromMSecsSinceEpoch(msecs, Qt::OffsetFromUTC, static_cast<int>(local.offset));
 }
 
 qint64 Clock::now_msecs_since_epoch() const
@@ -40,12 +54,7 @@ qint64 Clock::now_msecs_since_epoch() const
 
 qint64 Clock::today_midnight_msecs() const
 {
-    const time_t seconds = whole_seconds(now_msecs_since_epoch());
-    const struct tm fields = local_fields(seconds);
-    const time_t guess = seconds - (fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec);
-    // On the day the clocks change, midnight had another offset than now.
-    const struct tm at_guess = local_fields(guess);
-    return (static_cast<qint64>(guess) + (fields.tm_gmtoff - at_guess.tm_gmtoff)) * 1000;
+    return static_cast<qint64>(local_minute(whole_seconds(now_msecs_since_epoch())).midnight) * 1000;
 }
 
 QDateTime Clock::today_midnight() const
