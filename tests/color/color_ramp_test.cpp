@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -9,18 +8,6 @@
 // Expected values below are worked out from the rows of the white-point
 // tables (written here as literals) and from the arithmetic of the fill:
 // entry = truncate(float(x / 65535 * brightness * w) * 65535).
-
-namespace {
-
-ColorSettings settings_of(int temperature, float brightness = 1.0f)
-{
-    ColorSettings s;
-    s.temperature = temperature;
-    s.brightness = brightness;
-    return s;
-}
-
-} // namespace
 
 TEST(ColorRamp, WhitePointsOfShiftedReadsUnknownSchemesAndTableEnds)
 {
@@ -133,8 +120,7 @@ TEST(ColorRamp, OneEntryThroughTheFill)
         ColorRamp ramp;
         ramp.set_color_scheme(c.scheme);
         ramp.set_leading_color(c.leading);
-        ColorSettings s = settings_of(c.temperature, c.brightness);
-        std::copy(c.gamma, c.gamma + 3, s.gamma);
+        ColorSettings s{c.temperature, {c.gamma[0], c.gamma[1], c.gamma[2]}, c.brightness};
         unsigned short e[3] = {c.in[0], c.in[1], c.in[2]};
         ramp.color_ramp_fill(&e[0], &e[1], &e[2], 1, &s);
         for (int k = 0; k < 3; ++k)
@@ -148,7 +134,7 @@ TEST(ColorRamp, NeutralPointLeavesRampsAlone)
     std::vector<unsigned short> r(65536), g(65536), b(65536);
     for (int j = 0; j < 65536; ++j)
         r[j] = g[j] = b[j] = static_cast<unsigned short>(j);
-    ColorSettings s = settings_of(6500);
+    ColorSettings s{6500};
     ramp.color_ramp_fill(r.data(), g.data(), b.data(), 65536, &s);
     int changed = 0;
     for (int j = 0; j < 65536; ++j) {
@@ -165,13 +151,13 @@ TEST(ColorRamp, FloatRampsHaveNoLimitAndNoScale)
 {
     ColorRamp ramp;
     float r = 1.0f, g = 1.0f, b = 0.5f;
-    ColorSettings s = settings_of(3400, 0.5f);
+    ColorSettings s{3400, {1, 1, 1}, 0.5f};
     ramp.color_ramp_fill_float(&r, &g, &b, 1, &s);
     EXPECT_NEAR(r, 0.5f, 1e-7);
     EXPECT_NEAR(g, 0.5f * 0.76888303f, 1e-7);
     EXPECT_NEAR(b, 0.25f * 0.52427322f, 1e-7);
     r = 1.0f;
-    s = settings_of(6500, 2.0f);
+    s = {6500, {1, 1, 1}, 2.0f};
     ramp.color_ramp_fill_float(&r, &g, &b, 1, &s);
     EXPECT_FLOAT_EQ(r, 2.0f);
 }

@@ -6,18 +6,6 @@
 #include "color/ColorRamp.h"
 #include "color/CrtcRampBuilder.h"
 
-namespace {
-
-ColorSettings settings_of(int temperature, float brightness)
-{
-    ColorSettings s;
-    s.temperature = temperature;
-    s.brightness = brightness;
-    return s;
-}
-
-} // namespace
-
 TEST(CrtcRampBuilder, BrightnessBelowFivePercentNeverReachesTheDisplay)
 {
     const struct
@@ -27,7 +15,7 @@ TEST(CrtcRampBuilder, BrightnessBelowFivePercentNeverReachesTheDisplay)
         bool reaches;
     } cases[] = {{3400, 0.049f, false}, {3400, 0.05f, true}, {3400, 0.0f, false}, {-1, 1.0f, false}, {0, 1.0f, true}};
     for (const auto& c : cases) {
-        const ColorSettings s = settings_of(c.temperature, c.brightness);
+        const ColorSettings s{c.temperature, {1, 1, 1}, c.brightness};
         EXPECT_EQ(CrtcRampBuilder::reaches_display(&s), c.reaches) << c.temperature << " K, " << c.brightness;
     }
 }
@@ -59,7 +47,7 @@ TEST(CrtcRampBuilder, PreservedRampsCarryTheTint)
     // A calibration another tool loaded: different curves per channel.
     const uint16_t saved[12] = {0, 20000, 40000, 65535, 0, 10000, 30000, 60000, 1000, 2000, 3000, 65535};
     uint16_t block[12];
-    ColorSettings s = settings_of(3400, 1.0f);
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     CrtcRampBuilder::build(&color_ramp, &s, true, false, saved, 4, block);
     // Red keeps full strength; green 30000 and 60000 * .76888303 = 23066.5
     // and 46132.98; blue 65535 * .52427322 = 34358.75.
@@ -77,13 +65,13 @@ TEST(CrtcRampBuilder, LinearOrInvertedBaseReplacesTheSavedRamps)
     std::vector<uint16_t> block(3 * size);
     // Without preserve: half of the linear curve's 65279 and 32767.
     const std::vector<uint16_t> saved(3 * size, 12345);
-    ColorSettings s = settings_of(6500, 0.5f);
+    ColorSettings s{6500, {1, 1, 1}, 0.5f};
     CrtcRampBuilder::build(&color_ramp, &s, false, false, saved.data(), size, block.data());
     EXPECT_NEAR(block[255], 32639, 1);
     EXPECT_NEAR(block[size + 255], 32639, 1);
     EXPECT_NEAR(block[2 * size + 128], 16383, 1);
     // Inversion replaces even preserved ramps; the tint acts on top of it.
-    s = settings_of(3400, 1.0f);
+    s = {3400, {1, 1, 1}, 1.0f};
     CrtcRampBuilder::build(&color_ramp, &s, true, true, saved.data(), size, block.data());
     EXPECT_EQ(block[0], 65535);
     EXPECT_EQ(block[size], 50388);     // .76888303 * 65535

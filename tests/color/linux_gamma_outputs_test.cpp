@@ -104,9 +104,7 @@ TEST_F(LinuxGammaOutputsTest, EveryCrtcButTheIgnoredGetsTheTintAndItsOwnRampsBac
         ASSERT_EQ(gamma.start(), 0);
         // Connected or not, every CRTC counts.
         EXPECT_EQ(gamma.get_screen_count(), probe->count());
-        ColorSettings s;
-        s.temperature = c.temperature;
-        s.brightness = c.brightness;
+        ColorSettings s{c.temperature, {1, 1, 1}, c.brightness};
         ASSERT_EQ(gamma.set_temperature(&s, c.ignored, 0), 0);
         for (int i = 0; i < probe->count(); ++i) {
             const CrtcRamps r = probe->get(i);

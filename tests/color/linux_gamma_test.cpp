@@ -19,14 +19,6 @@
 
 namespace {
 
-ColorSettings settings_of(int temperature, float brightness)
-{
-    ColorSettings s;
-    s.temperature = temperature;
-    s.brightness = brightness;
-    return s;
-}
-
 // What the server holds before a backend starts: xrandr's identity.
 uint16_t identity(unsigned int j, unsigned int size)
 {
@@ -77,7 +69,7 @@ protected:
     // Tints CRTC 0 at half brightness and checks that it lies over `base`.
     void expect_half_of(LinuxGamma& gamma, const CrtcRamps& base)
     {
-        ColorSettings s = settings_of(6500, 0.5f);
+        ColorSettings s{6500, {1, 1, 1}, 0.5f};
         ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
         const CrtcRamps half = probe->get(0);
         for (unsigned int j = 0; j < half.size; ++j)
@@ -92,7 +84,7 @@ protected:
 
 } // namespace
 
-TEST_F(LinuxGammaTest, FactoryBackendReconnectsCountsEveryCrtcAndRestores)
+TEST_F(LinuxGammaTest, FactoryBackendReconnectsCountsEveryCrtcAndKeepsItsFileWhileItLives)
 {
     std::unique_ptr<IGamma> gamma(GammaFactory().get_gamma());
     ASSERT_NE(dynamic_cast<LinuxGamma*>(gamma.get()), nullptr);
@@ -102,18 +94,23 @@ TEST_F(LinuxGammaTest, FactoryBackendReconnectsCountsEveryCrtcAndRestores)
     EXPECT_TRUE(gamma->is_connected());
     ASSERT_EQ(gamma->start(), 0);
     EXPECT_EQ(gamma->get_screen_count(), probe->count());
-    ColorSettings s = settings_of(3400, 1.0f);
+    const QString path = QString::fromStdString(static_cast<LinuxGamma*>(gamma.get())->crash_file_path());
+    EXPECT_TRUE(path.startsWith(runtime.path() + "/ovra-ramps-"));
+    EXPECT_TRUE(QFile::exists(path));
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     EXPECT_EQ(gamma->set_temperature(&s, {}, 0), 0);
     EXPECT_EQ(probe->get(0).green.back(), 50388); // 65535 * .76888303
     EXPECT_EQ(gamma->restore(), 0);
     EXPECT_EQ(probe->get(0), probe->curve(0, identity));
+    gamma.reset();
+    EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(LinuxGammaTest, TintReachesTheServer)
+TEST_F(LinuxGammaTest, TintReachesTheServerUnlessBelowFivePercent)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 0.8f);
+    ColorSettings s{3400, {1, 1, 1}, 0.8f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps written = probe->get(0);
     ASSERT_EQ(written.size, probe->size(0));
@@ -124,6 +121,13 @@ TEST_F(LinuxGammaTest, TintReachesTheServer)
         EXPECT_NEAR(written.blue[j], std::floor(base * 0.52427322), 1.0) << j;
     }
     EXPECT_EQ(written.red.back(), 52428); // 65535 * 0.8 exactly
+
+    s = {6500, {1, 1, 1}, 0.049f};
+    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), -1);
+    EXPECT_EQ(probe->get(0), written);
+    s.brightness = 0.05f;
+    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+    EXPECT_NEAR(probe->get(0).red.back(), 3276, 1); // 65535 * 0.05 = 3276.75
 }
 
 TEST_F(LinuxGammaTest, CalibrationStaysUnderTheTintAndComesBackExactly)
@@ -135,19 +139,6 @@ TEST_F(LinuxGammaTest, CalibrationStaysUnderTheTintAndComesBackExactly)
     expect_half_of(gamma, before);
     EXPECT_EQ(gamma.restore(), 0);
     EXPECT_EQ(probe->get(0), before);
-}
-
-TEST_F(LinuxGammaTest, BrightnessBelowFivePercentLeavesTheScreen)
-{
-    LinuxGamma gamma;
-    ASSERT_EQ(gamma.start(), 0);
-    const CrtcRamps before = probe->get(0);
-    ColorSettings s = settings_of(6500, 0.049f);
-    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), -1);
-    EXPECT_EQ(probe->get(0), before);
-    s.brightness = 0.05f;
-    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    EXPECT_NEAR(probe->get(0).red.back(), 3276, 1); // 65535 * 0.05 = 3276.75
 }
 
 TEST_F(LinuxGammaTest, RestoreAfterResetWritesTheLinearCurve)
@@ -171,7 +162,7 @@ TEST_F(LinuxGammaTest, InversionStartsEveryRampAtTheTop)
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
     gamma.set_use_inverted_gamma(true);
-    ColorSettings s = settings_of(6500, 1.0f);
+    ColorSettings s{6500, {1, 1, 1}, 1.0f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps written = probe->get(0);
     EXPECT_EQ(written.red[0], 65535);
@@ -189,7 +180,7 @@ TEST_F(LinuxGammaTest, IgnoredMonitorGetsTheNeutralRecord)
     ASSERT_TRUE(probe->set_curve(0, calibration));
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3000, 0.7f);
+    ColorSettings s{3000, {1, 1, 1}, 0.7f};
     ASSERT_EQ(gamma.set_temperature(&s, {1}, 0), 0);
     const CrtcRamps written = probe->get(0);
     const CrtcRamps cal = probe->curve(0, calibration);
@@ -207,7 +198,7 @@ TEST_F(LinuxGammaTest, AnInvalidCrtcIsReported)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     const int n = gamma.get_screen_count();
     EXPECT_EQ(stderr_of([&] { EXPECT_EQ(gamma.set_temperature_for_display(gamma.randr_state(), n, &s), -1); }),
               n < 2 ? std::string("CRTC -1 does not exist. Only CRTC 0 exists.\n")
@@ -231,7 +222,7 @@ TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps tinted = probe->get(0);
     EXPECT_EQ(stderr_of([&] { ASSERT_EQ(gamma.start(), 0); }), "");
@@ -240,19 +231,6 @@ TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
     ASSERT_TRUE(probe->set_curve(0, identity));
     EXPECT_EQ(gamma.restore(), 0);
     EXPECT_EQ(probe->get(0), tinted);
-}
-
-TEST_F(LinuxGammaTest, TheRampFileLivesWhileTheBackendDoes)
-{
-    QString path;
-    {
-        LinuxGamma gamma;
-        ASSERT_EQ(gamma.start(), 0);
-        path = QString::fromStdString(gamma.crash_file_path());
-        EXPECT_TRUE(path.startsWith(runtime.path() + "/ovra-ramps-"));
-        EXPECT_TRUE(QFile::exists(path));
-    }
-    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
@@ -264,7 +242,7 @@ TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
     if (child == 0) {
         // Its own connection, its tint on the screen, then kill -9.
         LinuxGamma* dying = new LinuxGamma;
-        ColorSettings s = settings_of(1900, 0.4f);
+        ColorSettings s{1900, {1, 1, 1}, 0.4f};
         if (dying->start() != 0 || dying->set_temperature(&s, {}, 0) != 0)
             _exit(1);
         raise(SIGKILL);
@@ -305,7 +283,7 @@ TEST_F(LinuxGammaTest, ARampFileThatIsNotOursIsIgnoredWithOneLine)
         EXPECT_EQ(stderr_of([&] { ASSERT_EQ(gamma.start(), 0); }),
                   prefix + (corrupt ? "not a ramp file\n" : "they belong to other CRTCs\n"));
         EXPECT_EQ(probe->get(0), before);
-        ColorSettings s = settings_of(3000, 0.5f);
+        ColorSettings s{3000, {1, 1, 1}, 0.5f};
         ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
         EXPECT_EQ(gamma.restore(), 0);
         EXPECT_EQ(probe->get(0), before);
@@ -321,7 +299,7 @@ TEST(LinuxGammaWithoutServer, AnUnreachableDisplayDoesNotCrash)
     stderr_of([&] {
         EXPECT_EQ(gamma.start(), -1);
         EXPECT_EQ(gamma.get_screen_count(), 0);
-        ColorSettings s = settings_of(3400, 1.0f);
+        ColorSettings s{3400, {1, 1, 1}, 1.0f};
         EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
         EXPECT_EQ(gamma.restore(), 0);
         EXPECT_EQ(gamma.reset(), 0);
