@@ -37,7 +37,7 @@ TEST(CrtcRampBuilder, LinearAndInvertedCurvesDivideBySize)
     for (const auto& c : cases) {
         std::vector<uint16_t> ramp(c.size);
         c.fill(ramp.data(), c.size);
-        EXPECT_EQ(ramp[c.index], c.expected) << (c.fill == linear ? "linear " : "inverted ") << c.size << "/" << c.index;
+        EXPECT_EQ(ramp[c.index], c.expected) << (c.fill == linear ? "linear " : "inverted ") << c.index << "/" << c.size;
     }
 }
 

@@ -31,10 +31,7 @@ public:
     }
     ~ScopedTimeZone()
     {
-        if (had_old)
-            setenv("TZ", old_zone.constData(), 1);
-        else
-            unsetenv("TZ");
+        had_old ? setenv("TZ", old_zone.constData(), 1) : unsetenv("TZ");
         tzset();
     }
     ScopedTimeZone(const ScopedTimeZone&) = delete;
@@ -85,14 +82,6 @@ inline std::vector<Row> read_table(const char* file_name)
             row[header[i]] = cells[i];
     }
     return rows;
-}
-
-inline const Row* find_row(const std::vector<Row>& rows, const QString& name)
-{
-    for (const Row& row : rows)
-        if (row.at("name") == name)
-            return &row;
-    return nullptr;
 }
 
 } // namespace time_test

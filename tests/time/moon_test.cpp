@@ -19,8 +19,9 @@ TEST(MoonPhase, FollowsEphemThroughFourYears)
     std::map<QString, int> seen;
     for (const Row& row : read_table("moon_reference.csv")) {
         const double phase = moon.moon_phase(row.at("utc_ms").toDouble() / 1000.0);
-        const double expected = row.at("kind") == "full" ? 1.0 : row.at("kind") == "new" ? 0.0 : row.at("lit").toDouble();
-        EXPECT_NEAR(phase, expected, row.at("kind") == "lit" ? 0.02 : 0.005)
+        const QString kind = row.at("kind");
+        const double expected = kind == "full" ? 1.0 : kind == "new" ? 0.0 : row.at("lit").toDouble();
+        EXPECT_NEAR(phase, expected, kind == "lit" ? 0.02 : 0.005)
             << row.at("kind").toStdString() << " " << row.at("utc_ms").toStdString();
         ++seen[row.at("kind")];
     }

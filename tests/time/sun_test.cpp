@@ -268,19 +268,15 @@ TEST(SunOlder, FollowsTheSolarCalculatorFormulas)
 
 TEST(SunOlder, MeanLongitudeComparesOnlyWholeDegrees)
 {
-    Sun sun;
     // The t at which 280.46646 + t (36000.76983 + 0.0003032 t) reaches a
-    // given number of degrees.
+    // given number of degrees; 360.5 stays as it is.
     const auto t_for = [](double degrees) {
-        const double b = 36000.76983;
-        const double a = 0.0003032;
-        const double c = 280.46646 - degrees;
+        const double b = 36000.76983, a = 0.0003032, c = 280.46646 - degrees;
         return -2 * c / (b + std::sqrt(b * b - 4 * a * c));
     };
-    EXPECT_NEAR(sun.calcGeomMeanLongSun(t_for(360.5)), 360.5, 1e-7);
-    EXPECT_NEAR(sun.calcGeomMeanLongSun(t_for(720.5)), 360.5, 1e-7);
-    EXPECT_NEAR(sun.calcGeomMeanLongSun(t_for(721.5)), 1.5, 1e-7);
-    EXPECT_NEAR(sun.calcGeomMeanLongSun(t_for(-10.0)), 350.0, 1e-7);
+    Sun sun;
+    for (const auto& [degrees, reduced] : {std::pair{360.5, 360.5}, {720.5, 360.5}, {721.5, 1.5}, {-10.0, 350.0}})
+        EXPECT_NEAR(sun.calcGeomMeanLongSun(t_for(degrees)), reduced, 1e-7) << degrees;
     EXPECT_NEAR(sun.calcGeomMeanLongSun(0.0), 280.46646, 1e-12);
 }
 
@@ -310,32 +306,29 @@ TEST(SunOlder, SunriseAndSunsetUtcWithinSecondsOfEphem)
 
 TEST(SunOlder, DayStartAndEndFollowTheHourRules)
 {
-    const auto rows = read_table("sun_reference.csv");
     // Sydney in January: sunrise about 18:50 UTC of the day before, sunset
-    // about 09:10 UTC.
-    const Row* row = find_row(rows, "sydney_2025-01-15_1200");
-    ASSERT_NE(row, nullptr);
+    // about 09:10 UTC, in minutes from midnight UTC.
+    const auto rows = sun_rows([](const Row& r, bool) { return r.at("name") == "sydney_2025-01-15_1200"; });
+    ASSERT_EQ(rows.size(), 1u);
     const double midnight_ms = double(QDateTime(QDate(2025, 1, 15), QTime(0, 0), QTimeZone::utc()).toMSecsSinceEpoch());
-    const double rise = (row->at("rise_event_ms").toDouble() - midnight_ms) / 60000.0;
-    const double set = (row->at("set_event_ms").toDouble() - midnight_ms) / 60000.0;
+    const double rise = (num(rows[0], "rise_event_ms") - midnight_ms) / 60000.0;
+    const double set = (num(rows[0], "set_event_ms") - midnight_ms) / 60000.0;
     ASSERT_LT(rise, -60.0);
     ASSERT_GT(set, 0.0);
-
+    // Without an offset the sunrise hour is below 0 and the sunset's below
+    // 24: the day starts with the sunset and ends with the sunrise a day
+    // later. With the local zone's offset both lie within the day. Shifted so
+    // that the sunset's hour reaches 24, the start is the sunset less a day.
+    const struct
+    {
+        int offset_hours;
+        double start, end;
+    } cases[] = {{0, set, rise + 1440.0}, {11, rise + 660.0, set + 660.0}, {20, set + 1200.0 - 1440.0, rise + 1200.0}};
     Sun sun(-33.8688, -151.2093, 0);
     sun.setCurrentDate(2025, 1, 15);
-    // Sunrise hour below 0, sunset hour below 24: the day starts with the
-    // sunset and ends with the sunrise a day later.
-    EXPECT_NEAR(sun.calc_day_start_time(), set, 0.25);
-    EXPECT_NEAR(sun.calc_day_end_time(), rise + 1440.0, 0.25);
-
-    // With the offset of the local zone both lie within the day.
-    sun.setTZOffset(11);
-    EXPECT_NEAR(sun.calc_day_start_time(), rise + 660.0, 0.25);
-    EXPECT_NEAR(sun.calc_day_end_time(), set + 660.0, 0.25);
-
-    // Shifted so that the sunset's hour reaches 24: the start is the sunset
-    // less a day, the end is the sunrise.
-    sun.setTZOffset(20);
-    EXPECT_NEAR(sun.calc_day_start_time(), set + 1200.0 - 1440.0, 0.25);
-    EXPECT_NEAR(sun.calc_day_end_time(), rise + 1200.0, 0.25);
+    for (const auto& c : cases) {
+        sun.setTZOffset(c.offset_hours);
+        EXPECT_NEAR(sun.calc_day_start_time(), c.start, 0.25) << c.offset_hours;
+        EXPECT_NEAR(sun.calc_day_end_time(), c.end, 0.25) << c.offset_hours;
+    }
 }
