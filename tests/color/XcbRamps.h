@@ -17,6 +17,20 @@ struct CrtcRamps
     {
         return size == o.size && red == o.red && green == o.green && blue == o.blue;
     }
+
+    // Entry j = f(j, size) on all three channels.
+    template <typename F>
+    static CrtcRamps of(unsigned int size, F f)
+    {
+        CrtcRamps r;
+        r.size = size;
+        for (unsigned int j = 0; j < size; ++j) {
+            r.red.push_back(f(j, size));
+            r.green.push_back(r.red.back());
+            r.blue.push_back(r.red.back());
+        }
+        return r;
+    }
 };
 
 class XcbRamps
@@ -82,29 +96,16 @@ public:
         return s;
     }
 
-    // Whether the CRTC drives an output with a mode right now.
-    bool active(int index) const
+    template <typename F>
+    CrtcRamps curve(int index, F f) const
     {
-        auto* info = xcb_randr_get_crtc_info_reply(
-            conn, xcb_randr_get_crtc_info(conn, crtcs[index], XCB_CURRENT_TIME), nullptr);
-        const bool on = info && info->mode != XCB_NONE;
-        free(info);
-        return on;
+        return CrtcRamps::of(size(index), f);
     }
 
-    // Entry j = f(j) on all three channels.
     template <typename F>
     bool set_curve(int index, F f) const
     {
-        CrtcRamps r;
-        r.size = size(index);
-        for (unsigned int j = 0; j < r.size; ++j) {
-            const uint16_t v = f(j, r.size);
-            r.red.push_back(v);
-            r.green.push_back(v);
-            r.blue.push_back(v);
-        }
-        return set(index, r);
+        return set(index, curve(index, f));
     }
 
 private:

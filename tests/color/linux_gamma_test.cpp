@@ -19,14 +19,6 @@
 
 namespace {
 
-ColorSettings settings_of(int temperature, float brightness)
-{
-    ColorSettings s;
-    s.temperature = temperature;
-    s.brightness = brightness;
-    return s;
-}
-
 // What the server holds before a backend starts: xrandr's identity.
 uint16_t identity(unsigned int j, unsigned int size)
 {
@@ -37,6 +29,14 @@ uint16_t identity(unsigned int j, unsigned int size)
 uint16_t calibration(unsigned int j, unsigned int size)
 {
     return static_cast<uint16_t>(std::sqrt(static_cast<double>(j) / (size - 1)) * 65535.0);
+}
+
+template <typename F>
+std::string stderr_of(F f)
+{
+    testing::internal::CaptureStderr();
+    f();
+    return testing::internal::GetCapturedStderr();
 }
 
 class LinuxGammaTest : public ::testing::Test
@@ -66,16 +66,14 @@ protected:
         qputenv("XDG_RUNTIME_DIR", old_runtime);
     }
 
-    CrtcRamps curve(int index, uint16_t (*f)(unsigned int, unsigned int)) const
+    // Tints CRTC 0 at half brightness and checks that it lies over `base`.
+    void expect_half_of(LinuxGamma& gamma, const CrtcRamps& base)
     {
-        CrtcRamps r;
-        r.size = probe->size(index);
-        for (unsigned int j = 0; j < r.size; ++j) {
-            r.red.push_back(f(j, r.size));
-            r.green.push_back(f(j, r.size));
-            r.blue.push_back(f(j, r.size));
-        }
-        return r;
+        ColorSettings s{6500, {1, 1, 1}, 0.5f};
+        ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+        const CrtcRamps half = probe->get(0);
+        for (unsigned int j = 0; j < half.size; ++j)
+            ASSERT_NEAR(half.red[j], std::floor(base.red[j] * 0.5), 1.0) << j;
     }
 
     std::unique_ptr<XcbRamps> probe;
@@ -86,84 +84,61 @@ protected:
 
 } // namespace
 
-TEST_F(LinuxGammaTest, StartCountsEveryCrtc)
-{
-    LinuxGamma gamma;
-    EXPECT_TRUE(gamma.is_connected());
-    ASSERT_EQ(gamma.start(), 0);
-    EXPECT_EQ(gamma.get_screen_count(), probe->count());
-}
-
-TEST_F(LinuxGammaTest, FactoryMakesAWorkingBackend)
+TEST_F(LinuxGammaTest, FactoryBackendReconnectsCountsEveryCrtcAndKeepsItsFileWhileItLives)
 {
     std::unique_ptr<IGamma> gamma(GammaFactory().get_gamma());
     ASSERT_NE(dynamic_cast<LinuxGamma*>(gamma.get()), nullptr);
-    gamma->init(); // as the controller does: a second connection replaces the first
+    // As the controller does, and once more: each connection replaces the last.
+    gamma->init();
+    gamma->init();
     EXPECT_TRUE(gamma->is_connected());
     ASSERT_EQ(gamma->start(), 0);
     EXPECT_EQ(gamma->get_screen_count(), probe->count());
-    ColorSettings s = settings_of(3400, 1.0f);
+    const QString path = QString::fromStdString(static_cast<LinuxGamma*>(gamma.get())->crash_file_path());
+    EXPECT_TRUE(path.startsWith(runtime.path() + "/ovra-ramps-"));
+    EXPECT_TRUE(QFile::exists(path));
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     EXPECT_EQ(gamma->set_temperature(&s, {}, 0), 0);
     EXPECT_EQ(probe->get(0).green.back(), 50388); // 65535 * .76888303
     EXPECT_EQ(gamma->restore(), 0);
-    EXPECT_EQ(probe->get(0), curve(0, identity));
+    EXPECT_EQ(probe->get(0), probe->curve(0, identity));
+    gamma.reset();
+    EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(LinuxGammaTest, TintReachesTheServer)
+TEST_F(LinuxGammaTest, TintReachesTheServerUnlessBelowFivePercent)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 0.8f);
+    ColorSettings s{3400, {1, 1, 1}, 0.8f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps written = probe->get(0);
     ASSERT_EQ(written.size, probe->size(0));
-    const double w[3] = {1.0, 0.76888303, 0.52427322};
     for (unsigned int j = 0; j < written.size; ++j) {
-        const double base = identity(j, written.size);
-        EXPECT_NEAR(written.red[j], std::floor(base * 0.8 * w[0]), 1.0) << j;
-        EXPECT_NEAR(written.green[j], std::floor(base * 0.8 * w[1]), 1.0) << j;
-        EXPECT_NEAR(written.blue[j], std::floor(base * 0.8 * w[2]), 1.0) << j;
+        const double base = identity(j, written.size) * 0.8;
+        EXPECT_NEAR(written.red[j], std::floor(base), 1.0) << j;
+        EXPECT_NEAR(written.green[j], std::floor(base * 0.76888303), 1.0) << j;
+        EXPECT_NEAR(written.blue[j], std::floor(base * 0.52427322), 1.0) << j;
     }
-    // Top entry: 65535 * 0.8 = 52428 exactly in red.
-    EXPECT_EQ(written.red.back(), 52428);
-}
+    EXPECT_EQ(written.red.back(), 52428); // 65535 * 0.8 exactly
 
-TEST_F(LinuxGammaTest, RestoreBringsBackExactlyWhatWasThere)
-{
-    ASSERT_TRUE(probe->set_curve(0, calibration));
-    const CrtcRamps before = probe->get(0);
-    LinuxGamma gamma;
-    ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(2500, 0.6f);
-    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    ASSERT_FALSE(probe->get(0) == before);
-    EXPECT_EQ(gamma.restore(), 0);
-    EXPECT_EQ(probe->get(0), before);
-}
-
-TEST_F(LinuxGammaTest, PreservedCalibrationStaysUnderTheTint)
-{
-    ASSERT_TRUE(probe->set_curve(0, calibration));
-    LinuxGamma gamma;
-    ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(6500, 0.5f);
-    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    const CrtcRamps written = probe->get(0);
-    for (unsigned int j = 0; j < written.size; ++j)
-        EXPECT_NEAR(written.red[j], std::floor(calibration(j, written.size) * 0.5), 1.0) << j;
-}
-
-TEST_F(LinuxGammaTest, BrightnessBelowFivePercentLeavesTheScreen)
-{
-    LinuxGamma gamma;
-    ASSERT_EQ(gamma.start(), 0);
-    const CrtcRamps before = probe->get(0);
-    ColorSettings s = settings_of(6500, 0.049f);
+    s = {6500, {1, 1, 1}, 0.049f};
     EXPECT_EQ(gamma.set_temperature(&s, {}, 0), -1);
-    EXPECT_EQ(probe->get(0), before);
+    EXPECT_EQ(probe->get(0), written);
     s.brightness = 0.05f;
     EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     EXPECT_NEAR(probe->get(0).red.back(), 3276, 1); // 65535 * 0.05 = 3276.75
+}
+
+TEST_F(LinuxGammaTest, CalibrationStaysUnderTheTintAndComesBackExactly)
+{
+    ASSERT_TRUE(probe->set_curve(0, calibration));
+    const CrtcRamps before = probe->get(0);
+    LinuxGamma gamma;
+    ASSERT_EQ(gamma.start(), 0);
+    expect_half_of(gamma, before);
+    EXPECT_EQ(gamma.restore(), 0);
+    EXPECT_EQ(probe->get(0), before);
 }
 
 TEST_F(LinuxGammaTest, RestoreAfterResetWritesTheLinearCurve)
@@ -175,21 +150,11 @@ TEST_F(LinuxGammaTest, RestoreAfterResetWritesTheLinearCurve)
     EXPECT_EQ(gamma.reset(), 0);
     EXPECT_EQ(probe->get(0), before); // reset alone leaves the display alone
     EXPECT_EQ(gamma.restore(), 0);
-    const CrtcRamps linear = probe->get(0);
-    const unsigned int n = linear.size;
-    for (unsigned int j = 0; j < n; ++j) {
-        const uint16_t expected = static_cast<uint16_t>(static_cast<double>(j) / n * 65535.0);
-        ASSERT_EQ(linear.red[j], expected) << j;
-        ASSERT_EQ(linear.green[j], expected) << j;
-        ASSERT_EQ(linear.blue[j], expected) << j;
-    }
-    if (n == 256) {
-        EXPECT_EQ(linear.red[255], 65279);
-    }
+    const CrtcRamps linear = probe->curve(
+        0, [](unsigned int j, unsigned int n) { return static_cast<uint16_t>(static_cast<double>(j) / n * 65535.0); });
+    EXPECT_EQ(probe->get(0), linear);
     // The tint now works from the linear curve too.
-    ColorSettings s = settings_of(6500, 0.5f);
-    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    EXPECT_NEAR(probe->get(0).red[n - 1], std::floor((n - 1.0) / n * 65535.0 * 0.5), 1.0);
+    expect_half_of(gamma, linear);
 }
 
 TEST_F(LinuxGammaTest, InversionStartsEveryRampAtTheTop)
@@ -197,8 +162,7 @@ TEST_F(LinuxGammaTest, InversionStartsEveryRampAtTheTop)
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
     gamma.set_use_inverted_gamma(true);
-    EXPECT_TRUE(gamma.is_gamma_inverted());
-    ColorSettings s = settings_of(6500, 1.0f);
+    ColorSettings s{6500, {1, 1, 1}, 1.0f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps written = probe->get(0);
     EXPECT_EQ(written.red[0], 65535);
@@ -216,10 +180,10 @@ TEST_F(LinuxGammaTest, IgnoredMonitorGetsTheNeutralRecord)
     ASSERT_TRUE(probe->set_curve(0, calibration));
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3000, 0.7f);
+    ColorSettings s{3000, {1, 1, 1}, 0.7f};
     ASSERT_EQ(gamma.set_temperature(&s, {1}, 0), 0);
     const CrtcRamps written = probe->get(0);
-    const CrtcRamps cal = curve(0, calibration);
+    const CrtcRamps cal = probe->curve(0, calibration);
     for (unsigned int j = 0; j < written.size; ++j) {
         ASSERT_NEAR(written.red[j], cal.red[j], 1.0) << j;
         ASSERT_NEAR(written.blue[j], cal.blue[j], 1.0) << j;
@@ -234,14 +198,11 @@ TEST_F(LinuxGammaTest, AnInvalidCrtcIsReported)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(gamma.set_temperature_for_display(gamma.randr_state(), gamma.get_screen_count(), &s), -1);
-    const std::string err = testing::internal::GetCapturedStderr();
-    const std::string expected = gamma.get_screen_count() < 2
-        ? std::string("CRTC -1 does not exist. Only CRTC 0 exists.\n")
-        : "CRTC -1 does not exist. Valid CRTCs are [0-" + std::to_string(gamma.get_screen_count() - 1) + "].\n";
-    EXPECT_EQ(err, expected);
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
+    const int n = gamma.get_screen_count();
+    EXPECT_EQ(stderr_of([&] { EXPECT_EQ(gamma.set_temperature_for_display(gamma.randr_state(), n, &s), -1); }),
+              n < 2 ? std::string("CRTC -1 does not exist. Only CRTC 0 exists.\n")
+                    : "CRTC -1 does not exist. Valid CRTCs are [0-" + std::to_string(n - 1) + "].\n");
     EXPECT_EQ(gamma.restore_monitor_colors(99), -1);
 }
 
@@ -249,9 +210,7 @@ TEST_F(LinuxGammaTest, AScreenThatIsNotThereEndsStart)
 {
     LinuxGamma gamma;
     gamma.randr_state()->screen_num = 7;
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(gamma.start(), -1);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Screen 7 could not be found.\n");
+    EXPECT_EQ(stderr_of([&] { EXPECT_EQ(gamma.start(), -1); }), "Screen 7 could not be found.\n");
     EXPECT_EQ(gamma.get_screen_count(), 0);
     // The default screen is found again.
     gamma.randr_state()->screen_num = -1;
@@ -259,138 +218,14 @@ TEST_F(LinuxGammaTest, AScreenThatIsNotThereEndsStart)
     EXPECT_EQ(gamma.get_screen_count(), probe->count());
 }
 
-TEST_F(LinuxGammaTest, InitTwiceKeepsOneWorkingConnection)
-{
-    LinuxGamma gamma;
-    gamma.init();
-    gamma.init();
-    ASSERT_TRUE(gamma.is_connected());
-    ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
-    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    EXPECT_EQ(gamma.restore(), 0);
-    EXPECT_EQ(probe->get(0), curve(0, identity));
-}
-
-TEST_F(LinuxGammaTest, TheRampFileLivesWhileTheBackendDoes)
-{
-    std::string path;
-    {
-        LinuxGamma gamma;
-        ASSERT_EQ(gamma.start(), 0);
-        path = gamma.crash_file_path();
-        EXPECT_TRUE(QString::fromStdString(path).startsWith(runtime.path() + "/ovra-ramps-"));
-        EXPECT_TRUE(QFile::exists(QString::fromStdString(path)));
-    }
-    EXPECT_FALSE(QFile::exists(QString::fromStdString(path)));
-}
-
-TEST_F(LinuxGammaTest, AStartAfterACrashGivesTheOriginalRampsBack)
-{
-    ASSERT_TRUE(probe->set_curve(0, calibration));
-    const CrtcRamps original = probe->get(0);
-    const QString kept = runtime.filePath("survivor.bin");
-    QString crash_path;
-    {
-        // A run that dies with its tint on the screen: its file survives, it
-        // never restores.
-        LinuxGamma dying;
-        ASSERT_EQ(dying.start(), 0);
-        ColorSettings s = settings_of(2000, 0.5f);
-        ASSERT_EQ(dying.set_temperature(&s, {}, 0), 0);
-        crash_path = QString::fromStdString(dying.crash_file_path());
-        ASSERT_TRUE(QFile::copy(crash_path, kept));
-    }
-    ASSERT_FALSE(QFile::exists(crash_path));
-    ASSERT_TRUE(QFile::rename(kept, crash_path));
-    const CrtcRamps tinted = probe->get(0);
-    ASSERT_FALSE(tinted == original);
-
-    LinuxGamma next;
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(next.start(), 0);
-    const std::string err = testing::internal::GetCapturedStderr();
-    EXPECT_NE(err.find("earlier run"), std::string::npos) << err;
-    EXPECT_EQ(probe->get(0), original);
-    // The kept ramps are the originals, not the tint it found: no compounding.
-    ColorSettings s = settings_of(6500, 0.5f);
-    ASSERT_EQ(next.set_temperature(&s, {}, 0), 0);
-    const CrtcRamps half = probe->get(0);
-    for (unsigned int j = 0; j < half.size; ++j)
-        ASSERT_NEAR(half.red[j], std::floor(original.red[j] * 0.5), 1.0) << j;
-    EXPECT_EQ(next.restore(), 0);
-    EXPECT_EQ(probe->get(0), original);
-}
-
-TEST_F(LinuxGammaTest, ACorruptRampFileIsIgnoredWithOneLine)
-{
-    ASSERT_TRUE(probe->set_curve(0, calibration));
-    const CrtcRamps before = probe->get(0);
-    const QString path = RampCrashFile::path_for_display(getenv("DISPLAY"));
-    {
-        QFile f(path);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("this is not a ramp file at all");
-    }
-    LinuxGamma gamma;
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(gamma.start(), 0);
-    const std::string err = testing::internal::GetCapturedStderr();
-    EXPECT_EQ(err, "Ignoring saved ramps in " + path.toStdString() + ": not a ramp file\n");
-    EXPECT_EQ(probe->get(0), before);
-    ColorSettings s = settings_of(3000, 0.5f);
-    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    EXPECT_EQ(gamma.restore(), 0);
-    EXPECT_EQ(probe->get(0), before);
-}
-
-TEST_F(LinuxGammaTest, ARampFileOfOtherCrtcsIsIgnored)
-{
-    const QString path = RampCrashFile::path_for_display(getenv("DISPLAY"));
-    std::vector<KeptCrtcRamps> foreign(1);
-    foreign[0].crtc = probe->crtc_id(0) + 1000;
-    foreign[0].ramp_size = probe->size(0);
-    foreign[0].ramps.assign(3 * foreign[0].ramp_size, 0);
-    ASSERT_TRUE(RampCrashFile(path).write(foreign));
-    const CrtcRamps before = probe->get(0);
-
-    LinuxGamma gamma;
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(gamma.start(), 0);
-    const std::string err = testing::internal::GetCapturedStderr();
-    EXPECT_EQ(err, "Ignoring saved ramps in " + path.toStdString() + ": they belong to other CRTCs\n");
-    EXPECT_EQ(probe->get(0), before);
-}
-
-TEST(LinuxGammaWithoutServer, AnUnreachableDisplayDoesNotCrash)
-{
-    testing::internal::CaptureStderr();
-    LinuxGamma gamma(":4093");
-    const std::string err = testing::internal::GetCapturedStderr();
-    EXPECT_EQ(err, "`RANDR Query Version' returned error -1\n");
-    EXPECT_FALSE(gamma.is_connected());
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(gamma.start(), -1);
-    EXPECT_EQ(gamma.get_screen_count(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
-    EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
-    EXPECT_EQ(gamma.restore(), 0);
-    EXPECT_EQ(gamma.reset(), 0);
-    gamma.init();
-    EXPECT_FALSE(gamma.is_connected());
-    testing::internal::GetCapturedStderr();
-}
-
 TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
 {
     LinuxGamma gamma;
     ASSERT_EQ(gamma.start(), 0);
-    ColorSettings s = settings_of(3400, 1.0f);
+    ColorSettings s{3400, {1, 1, 1}, 1.0f};
     ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
     const CrtcRamps tinted = probe->get(0);
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(gamma.start(), 0);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(stderr_of([&] { ASSERT_EQ(gamma.start(), 0); }), "");
     // The server was left alone, and what start reads now is what it keeps.
     EXPECT_EQ(probe->get(0), tinted);
     ASSERT_TRUE(probe->set_curve(0, identity));
@@ -407,7 +242,7 @@ TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
     if (child == 0) {
         // Its own connection, its tint on the screen, then kill -9.
         LinuxGamma* dying = new LinuxGamma;
-        ColorSettings s = settings_of(1900, 0.4f);
+        ColorSettings s{1900, {1, 1, 1}, 0.4f};
         if (dying->start() != 0 || dying->set_temperature(&s, {}, 0) != 0)
             _exit(1);
         raise(SIGKILL);
@@ -419,12 +254,56 @@ TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
     ASSERT_FALSE(probe->get(0) == original);
 
     LinuxGamma next;
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(next.start(), 0);
-    testing::internal::GetCapturedStderr();
+    const std::string err = stderr_of([&] { ASSERT_EQ(next.start(), 0); });
+    EXPECT_NE(err.find("earlier run"), std::string::npos) << err;
     EXPECT_EQ(probe->get(0), original);
-    ColorSettings s = settings_of(3400, 1.0f);
-    ASSERT_EQ(next.set_temperature(&s, {}, 0), 0);
+    // The kept ramps are the originals, not the tint it found: no compounding.
+    expect_half_of(next, original);
     EXPECT_EQ(next.restore(), 0);
     EXPECT_EQ(probe->get(0), original);
+}
+
+TEST_F(LinuxGammaTest, ARampFileThatIsNotOursIsIgnoredWithOneLine)
+{
+    ASSERT_TRUE(probe->set_curve(0, calibration));
+    const CrtcRamps before = probe->get(0);
+    const QString path = RampCrashFile::path_for_display(getenv("DISPLAY"));
+    const std::string prefix = "Ignoring saved ramps in " + path.toStdString() + ": ";
+    std::vector<KeptCrtcRamps> foreign = {{probe->crtc_id(0) + 1000, probe->size(0), {}}};
+    foreign[0].ramps.assign(3 * foreign[0].ramp_size, 0);
+    for (const bool corrupt : {true, false}) {
+        if (corrupt) {
+            QFile f(path);
+            ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+            f.write("this is not a ramp file at all");
+        } else {
+            ASSERT_TRUE(RampCrashFile(path).write(foreign));
+        }
+        LinuxGamma gamma;
+        EXPECT_EQ(stderr_of([&] { ASSERT_EQ(gamma.start(), 0); }),
+                  prefix + (corrupt ? "not a ramp file\n" : "they belong to other CRTCs\n"));
+        EXPECT_EQ(probe->get(0), before);
+        ColorSettings s{3000, {1, 1, 1}, 0.5f};
+        ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+        EXPECT_EQ(gamma.restore(), 0);
+        EXPECT_EQ(probe->get(0), before);
+    }
+}
+
+TEST(LinuxGammaWithoutServer, AnUnreachableDisplayDoesNotCrash)
+{
+    testing::internal::CaptureStderr();
+    LinuxGamma gamma(":4093");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "`RANDR Query Version' returned error -1\n");
+    EXPECT_FALSE(gamma.is_connected());
+    stderr_of([&] {
+        EXPECT_EQ(gamma.start(), -1);
+        EXPECT_EQ(gamma.get_screen_count(), 0);
+        ColorSettings s{3400, {1, 1, 1}, 1.0f};
+        EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+        EXPECT_EQ(gamma.restore(), 0);
+        EXPECT_EQ(gamma.reset(), 0);
+        gamma.init();
+        EXPECT_FALSE(gamma.is_connected());
+    });
 }

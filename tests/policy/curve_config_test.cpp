@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "policy/BrightnessConfigManager.h"
 #include "policy/TemperatureConfigManager.h"
 #include "time/Clock.h"
@@ -39,21 +41,17 @@ protected:
         file.write(content);
     }
 
-    // Applies the brightness file at the given hour; returns how often the
-    // display was asked to update.
-    int apply_brightness(const BrightnessConfigManager& manager, int hour, int minute = 0)
+    // Applies the file at the given time; returns how often the display was
+    // asked to update.
+    template <typename Manager>
+    int apply(const Manager& manager, int hour, int minute = 0)
     {
         clock.set(at_hour(hour, minute));
         int updates = 0;
-        manager.process_brightness_config(settings, [&updates] { ++updates; });
-        return updates;
-    }
-
-    int apply_temperature(const TemperatureConfigManager& manager, int hour, int minute = 0)
-    {
-        clock.set(at_hour(hour, minute));
-        int updates = 0;
-        manager.process_temperature_config(settings, [&updates] { ++updates; });
+        if constexpr (std::is_same_v<Manager, BrightnessConfigManager>)
+            manager.process_brightness_config(settings, [&updates] { ++updates; });
+        else
+            manager.process_temperature_config(settings, [&updates] { ++updates; });
         return updates;
     }
 
@@ -63,30 +61,65 @@ protected:
     std::map<QString, QVariant> settings;
 };
 
-TEST_F(CurveConfigTest, NoFileMeansTheFeatureIsUnused)
+TEST_F(CurveConfigTest, EntriesApplyByTheHour)
 {
-    BrightnessConfigManager brightness;
-    TemperatureConfigManager temperature;
-    brightness.read_brightness_config();
-    temperature.read_temperature_config();
-    EXPECT_FALSE(brightness.is_config_used());
-    EXPECT_FALSE(temperature.is_config_used());
-}
-
-TEST_F(CurveConfigTest, WholeDayEntryHoldsNightBrightnessAllDay)
-{
-    write("brightnessConfig.txt", "0 24 50\n");
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    ASSERT_TRUE(manager.is_config_used());
-    for (int hour : {0, 6, 12, 23}) {
-        settings[QStringLiteral("NightBrightness")] = 80;
-        EXPECT_EQ(apply_brightness(manager, hour, 59), 1) << "hour " << hour;
-        EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 50) << "hour " << hour;
+    // The value stored before each row: what an hour no entry covers keeps.
+    const int stored_brightness = 75;
+    const int stored_temperature = 4500;
+    const struct
+    {
+        bool brightness;
+        const char* file;
+        int hour, minute, updates, value;
+    } cases[] = {
+        {true, "0 24 50\n", 0, 59, 1, 50}, {true, "0 24 50\n", 12, 59, 1, 50}, {true, "0 24 50\n", 23, 59, 1, 50},
+        // Values are clamped to 5..100 % and 1000..13000 K.
+        {true, "0 12 200 12 24 1", 3, 0, 1, 100}, {true, "0 12 200 12 24 1", 15, 0, 1, 5},
+        {true, "0 24 4", 1, 0, 1, 5}, {true, "0 24 101", 1, 0, 1, 100}, {true, "0 24 -7", 1, 0, 1, 5},
+        {false, "0 12 500 12 24 20000", 3, 0, 1, 1000}, {false, "0 12 500 12 24 20000", 15, 0, 1, 13000},
+        {false, "0 24 999", 1, 0, 1, 1000}, {false, "0 24 13001", 1, 0, 1, 13000}, {false, "0 24 4500", 1, 0, 1, 4500},
+        // A file that is half right is not used: a missing number read as 0
+        // would hold the night at the lowest brightness all day.
+        {true, "0 24 50\n0 24", 10, 0, 0, stored_brightness},
+        {false, "6 18 5000 7", 10, 0, 0, stored_temperature},
+        {true, "8 10 sixty\n", 9, 0, 0, stored_brightness},
+        // A range over midnight never matches.
+        {false, "22 6 3000", 22, 0, 0, stored_temperature}, {false, "22 6 3000", 23, 0, 0, stored_temperature},
+        {false, "22 6 3000", 0, 0, 0, stored_temperature}, {false, "22 6 3000", 5, 0, 0, stored_temperature},
+        {false, "22 6 3000", 12, 0, 0, stored_temperature},
+        // The last match wins, and each match updates the display.
+        {true, "0 24 40\n18 20 70\n19 20 90\n", 17, 59, 1, 40}, {true, "0 24 40\n18 20 70\n19 20 90\n", 18, 0, 2, 70},
+        {true, "0 24 40\n18 20 70\n19 20 90\n", 18, 59, 2, 70}, {true, "0 24 40\n18 20 70\n19 20 90\n", 19, 0, 3, 90},
+        {true, "0 24 40\n18 20 70\n19 20 90\n", 19, 59, 3, 90}, {true, "0 24 40\n18 20 70\n19 20 90\n", 20, 0, 1, 40},
+        {true, "8 10 60", 7, 59, 0, stored_brightness}, {true, "8 10 60", 10, 0, 0, stored_brightness},
+        {true, "8 10 60", 9, 0, 1, 60},
+        // Line breaks have no meaning; other text refuses the whole file.
+        {false, "0\n\n12   3200 12\t24\n\n\n5600\n", 11, 0, 1, 3200},
+        {false, "0\n\n12   3200 12\t24\n\n\n5600\n", 12, 0, 1, 5600},
+        {true, "8 10 60\n# dim evenings\n18 24 30\n", 9, 0, 0, stored_brightness},
+    };
+    for (const auto& c : cases) {
+        settings = {{"NightBrightness", stored_brightness}, {"NightTemperature", stored_temperature}};
+        const char* key = c.brightness ? "NightBrightness" : "NightTemperature";
+        int updates = 0;
+        if (c.brightness) {
+            write("brightnessConfig.txt", c.file);
+            BrightnessConfigManager manager;
+            manager.read_brightness_config();
+            updates = apply(manager, c.hour, c.minute);
+        } else {
+            write("temperatureConfig.txt", c.file);
+            TemperatureConfigManager manager;
+            manager.read_temperature_config();
+            updates = apply(manager, c.hour, c.minute);
+        }
+        const std::string what = std::string(c.file) + " at " + std::to_string(c.hour) + ":" + std::to_string(c.minute);
+        EXPECT_EQ(updates, c.updates) << what;
+        EXPECT_EQ(settings[key].toInt(), c.value) << what;
     }
 }
 
-TEST_F(CurveConfigTest, OnlyThePlainKeyIsWritten)
+TEST_F(CurveConfigTest, OnlyThePlainKeysAreWritten)
 {
     write("brightnessConfig.txt", "0 24 50");
     write("temperatureConfig.txt", "0 24 2700");
@@ -94,140 +127,31 @@ TEST_F(CurveConfigTest, OnlyThePlainKeyIsWritten)
     TemperatureConfigManager temperature;
     brightness.read_brightness_config();
     temperature.read_temperature_config();
-    apply_brightness(brightness, 9);
-    apply_temperature(temperature, 9);
-    EXPECT_EQ(settings.size(), 2u);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 50);
-    EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 2700);
+    apply(brightness, 9);
+    apply(temperature, 9);
+    EXPECT_EQ(settings, (std::map<QString, QVariant>{{"NightBrightness", 50}, {"NightTemperature", 2700}}));
 }
 
-TEST_F(CurveConfigTest, BrightnessIsClampedToFiveToHundred)
+TEST_F(CurveConfigTest, FileIsReadOnceFromTheWorkingDirectoryOnly)
 {
-    write("brightnessConfig.txt", "0 12 200 12 24 1");
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    apply_brightness(manager, 3);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 100);
-    apply_brightness(manager, 15);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 5);
-}
+    BrightnessConfigManager brightness;
+    TemperatureConfigManager temperature;
+    temperature.read_temperature_config();
+    EXPECT_FALSE(temperature.is_config_used());
 
-TEST_F(CurveConfigTest, TemperatureIsClampedToThousandToThirteenThousand)
-{
-    write("temperatureConfig.txt", "0 12 500 12 24 20000");
-    TemperatureConfigManager manager;
-    manager.read_temperature_config();
-    apply_temperature(manager, 3);
-    EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 1000);
-    apply_temperature(manager, 15);
-    EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 13000);
-}
-
-TEST_F(CurveConfigTest, ClampBoundsAreKept)
-{
-    EXPECT_EQ(BrightnessConfigManager::clamp_brightness_config_value(5), 5);
-    EXPECT_EQ(BrightnessConfigManager::clamp_brightness_config_value(4), 5);
-    EXPECT_EQ(BrightnessConfigManager::clamp_brightness_config_value(100), 100);
-    EXPECT_EQ(BrightnessConfigManager::clamp_brightness_config_value(101), 100);
-    EXPECT_EQ(BrightnessConfigManager::clamp_brightness_config_value(-7), 5);
-    EXPECT_EQ(TemperatureConfigManager::clamp_temperature_config_value(1000), 1000);
-    EXPECT_EQ(TemperatureConfigManager::clamp_temperature_config_value(999), 1000);
-    EXPECT_EQ(TemperatureConfigManager::clamp_temperature_config_value(13000), 13000);
-    EXPECT_EQ(TemperatureConfigManager::clamp_temperature_config_value(13001), 13000);
-    EXPECT_EQ(TemperatureConfigManager::clamp_temperature_config_value(4500), 4500);
-}
-
-// A file that is half right is not used: its missing numbers would read as
-// 0 and hold the night at the lowest brightness all day.
-TEST_F(CurveConfigTest, AFileCutShortOrWithOtherTextIsNotUsed)
-{
-    const char* contents[] = {"0 24 50\n0 24", "6 18 5000 7", "8 10 60\n# dim evenings\n18 24 30\n",
-                              "8 10 sixty\n"};
-    for (const char* text : contents) {
-        write("brightnessConfig.txt", text);
-        BrightnessConfigManager manager;
-        manager.read_brightness_config();
-        EXPECT_TRUE(manager.get_entries().isEmpty()) << text;
-        EXPECT_EQ(apply_brightness(manager, 10), 0) << text;
-    }
-}
-
-TEST_F(CurveConfigTest, RangeOverMidnightNeverMatches)
-{
-    write("temperatureConfig.txt", "22 6 3000");
-    TemperatureConfigManager manager;
-    manager.read_temperature_config();
-    ASSERT_TRUE(manager.is_config_used());
-    for (int hour : {22, 23, 0, 3, 5, 6, 12}) {
-        settings[QStringLiteral("NightTemperature")] = 4500;
-        EXPECT_EQ(apply_temperature(manager, hour), 0) << "hour " << hour;
-        EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 4500) << "hour " << hour;
-    }
-}
-
-TEST_F(CurveConfigTest, LastMatchWinsAndEachMatchUpdates)
-{
-    write("brightnessConfig.txt", "0 24 40\n18 20 70\n19 20 90\n");
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    struct Case { int hour; int minute; int updates; int value; };
-    const Case cases[] = {
-        {17, 59, 1, 40}, {18, 0, 2, 70}, {18, 59, 2, 70}, {19, 0, 3, 90}, {19, 59, 3, 90}, {20, 0, 1, 40},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(apply_brightness(manager, c.hour, c.minute), c.updates) << c.hour << ":" << c.minute;
-        EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), c.value) << c.hour << ":" << c.minute;
-    }
-}
-
-TEST_F(CurveConfigTest, UncoveredHourLeavesTheStoredValue)
-{
-    write("brightnessConfig.txt", "8 10 60");
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    settings[QStringLiteral("NightBrightness")] = 75;
-    EXPECT_EQ(apply_brightness(manager, 7, 59), 0);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 75);
-    EXPECT_EQ(apply_brightness(manager, 10), 0);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 75);
-    EXPECT_EQ(apply_brightness(manager, 9), 1);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 60);
-}
-
-TEST_F(CurveConfigTest, LineBreaksHaveNoMeaning)
-{
-    write("temperatureConfig.txt", "0\n\n12   3200 12\t24\n\n\n5600\n");
-    TemperatureConfigManager manager;
-    manager.read_temperature_config();
-    ASSERT_EQ(manager.get_entries().size(), 2);
-    apply_temperature(manager, 11);
-    EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 3200);
-    apply_temperature(manager, 12);
-    EXPECT_EQ(settings[QStringLiteral("NightTemperature")].toInt(), 5600);
-}
-
-TEST_F(CurveConfigTest, FileIsLookedForInTheWorkingDirectoryOnly)
-{
     QTemporaryDir elsewhere;
     ASSERT_TRUE(elsewhere.isValid());
     write("brightnessConfig.txt", "0 24 50", elsewhere.path());
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    EXPECT_FALSE(manager.is_config_used());
-
+    brightness.read_brightness_config();
+    EXPECT_FALSE(brightness.is_config_used());
     ASSERT_TRUE(QDir::setCurrent(elsewhere.path()));
-    manager.read_brightness_config();
-    EXPECT_TRUE(manager.is_config_used());
-}
+    brightness.read_brightness_config();
+    EXPECT_TRUE(brightness.is_config_used());
 
-TEST_F(CurveConfigTest, FileIsReadOnceAndLaterEditsWaitForTheNextRead)
-{
-    write("brightnessConfig.txt", "0 24 50");
-    BrightnessConfigManager manager;
-    manager.read_brightness_config();
-    write("brightnessConfig.txt", "0 24 90");
-    apply_brightness(manager, 12);
-    EXPECT_EQ(settings[QStringLiteral("NightBrightness")].toInt(), 50);
+    // Later edits wait for the next read.
+    write("brightnessConfig.txt", "0 24 90", elsewhere.path());
+    apply(brightness, 12);
+    EXPECT_EQ(settings["NightBrightness"].toInt(), 50);
 }
 
 }

@@ -1,6 +1,6 @@
-// The tables of the colour policy against the document's tables: what each
-// type writes and does, in order; the mode cycle; the view's shadow keys;
-// the loop that gives way towards neutral when the display refuses a pair.
+// The tables of the colour policy: what each type writes and does, in order;
+// the mode cycle; the view's shadow keys; the loop that gives way towards
+// neutral when the display refuses a pair.
 #include <gtest/gtest.h>
 
 #include <QStringList>
@@ -36,66 +36,49 @@ TEST(OvraTypes, EachTypeRunsItsStepsInTheOrderOfItsRow)
 {
     const std::vector<std::pair<int, QStringList>> rows = {
         {1, {"revert_colors", "UseColorEffects=false", "overlay=false", "lightness=false"}},
-        {2, {"DayTemperature=0", "NightTemperature=0", "SleepLight=0", "UseColorEffects=false",
-             "revert_colors", "overlay=false", "lightness=false"}},
-        {3, {"revert_colors", "UseColorEffects=true", "ColorEffect=2", "overlay=false",
-             "lightness=false"}},
+        {2, {"DayTemperature=0", "NightTemperature=0", "SleepLight=0", "UseColorEffects=false", "revert_colors",
+             "overlay=false", "lightness=false"}},
+        {3, {"revert_colors", "UseColorEffects=true", "ColorEffect=2", "overlay=false", "lightness=false"}},
         {4, {"UseColorEffects=false", "invert_colors", "overlay=false", "lightness=false"}},
-        {5, {"DayTemperature=0", "NightTemperature=0", "SleepLight=0", "UseColorEffects=false",
-             "invert_colors", "overlay=false", "lightness=false"}},
-        {6, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=100",
-             "NightBrightness=75", "SleepLight=6500", "SleepBrightness=65", "revert_colors",
-             "UseColorEffects=false", "overlay=false", "lightness=false"}},
-        {7, {"LightnessScreenOpacity=30", "LightnessScreenRadius=30",
-             "LightnessScreenXPosition=50", "LightnessScreenYPosition=50", "revert_colors",
-             "UseColorEffects=false", "overlay=false", "lightness=true"}},
-        {8, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=120",
-             "NightBrightness=120", "SleepLight=6500", "SleepBrightness=120",
-             "UseColorEffects=false", "revert_colors", "overlay=false", "lightness=false"}},
-        {9, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=100",
-             "NightBrightness=100", "SleepLight=6500", "SleepBrightness=100", "DayOpacity=5",
-             "NightOpacity=40", "DayDim=0", "NightDim=10", "UseColorEffects=false",
-             "revert_colors", "overlay=true", "lightness=false"}},
+        {5, {"DayTemperature=0", "NightTemperature=0", "SleepLight=0", "UseColorEffects=false", "invert_colors",
+             "overlay=false", "lightness=false"}},
+        {6, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=100", "NightBrightness=75",
+             "SleepLight=6500", "SleepBrightness=65", "revert_colors", "UseColorEffects=false", "overlay=false",
+             "lightness=false"}},
+        {7, {"LightnessScreenOpacity=30", "LightnessScreenRadius=30", "LightnessScreenXPosition=50",
+             "LightnessScreenYPosition=50", "revert_colors", "UseColorEffects=false", "overlay=false",
+             "lightness=true"}},
+        {8, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=120", "NightBrightness=120",
+             "SleepLight=6500", "SleepBrightness=120", "UseColorEffects=false", "revert_colors", "overlay=false",
+             "lightness=false"}},
+        {9, {"DayTemperature=6500", "NightTemperature=6500", "DayBrightness=100", "NightBrightness=100",
+             "SleepLight=6500", "SleepBrightness=100", "DayOpacity=5", "NightOpacity=40", "DayDim=0", "NightDim=10",
+             "UseColorEffects=false", "revert_colors", "overlay=true", "lightness=false"}},
+        // Custom and unknown numbers do nothing beyond the base.
+        {0, {}}, {10, {}}, {11, {}}, {100, {}}, {-1, {}},
     };
     for (const auto& [type, expected] : rows)
         EXPECT_EQ(described(type), expected) << "type " << type;
 }
 
-TEST(OvraTypes, CustomAndUnknownNumbersDoNothingBeyondTheBase)
-{
-    for (int type : {0, 10, 11, 100, -1})
-        EXPECT_TRUE(OvraTypes::steps(type).empty()) << type;
-}
-
 TEST(OvraModes, CycleRunsAutomaticManualPausedAndBack)
 {
-    EXPECT_EQ(OvraModes::next_mode(1), 2);
-    EXPECT_EQ(OvraModes::next_mode(2), 3);
-    EXPECT_EQ(OvraModes::next_mode(3), 1);
-    EXPECT_EQ(OvraModes::next_mode(0), 1);
-    // Anything past the cycle comes back to Automatic too.
-    EXPECT_EQ(OvraModes::next_mode(7), 1);
+    // Anything outside the cycle comes back to Automatic too.
+    for (const auto& [mode, next] : {std::pair{1, 2}, {2, 3}, {3, 1}, {0, 1}, {7, 1}})
+        EXPECT_EQ(OvraModes::next_mode(mode), next) << mode;
 }
 
 TEST(AdvancedShadows, TheViewCopiesTwentyOneKeysInTableOrder)
 {
     const std::vector<std::pair<QString, QString>> expected = {
-        {"AdvancedDayTemperature", "DayTemperature"},
-        {"AdvancedNightTemperature", "NightTemperature"},
-        {"AdvancedDayBrightness", "DayBrightness"},
-        {"AdvancedNightBrightness", "NightBrightness"},
-        {"AdvancedSleepLight", "SleepLight"},
-        {"AdvancedSleepBrightness", "SleepBrightness"},
-        {"AdvancedColorEffect", "ColorEffect"},
-        {"AdvancedUseManualColorSettings", "UseManualColorSettings"},
-        {"AdvancedUseColorEffects", "UseColorEffects"},
-        {"AdvancedUseManualBrightness", "UseManualBrightness"},
-        {"AdvancedUseSleepLight", "UseSleepLight"},
-        {"AdvancedUseOverlayScreen", "UseOverlayScreen"},
-        {"AdvancedDayOpacity", "DayOpacity"},
-        {"AdvancedNightOpacity", "NightOpacity"},
-        {"AdvancedDayDim", "DayDim"},
-        {"AdvancedNightDim", "NightDim"},
+        {"AdvancedDayTemperature", "DayTemperature"}, {"AdvancedNightTemperature", "NightTemperature"},
+        {"AdvancedDayBrightness", "DayBrightness"}, {"AdvancedNightBrightness", "NightBrightness"},
+        {"AdvancedSleepLight", "SleepLight"}, {"AdvancedSleepBrightness", "SleepBrightness"},
+        {"AdvancedColorEffect", "ColorEffect"}, {"AdvancedUseManualColorSettings", "UseManualColorSettings"},
+        {"AdvancedUseColorEffects", "UseColorEffects"}, {"AdvancedUseManualBrightness", "UseManualBrightness"},
+        {"AdvancedUseSleepLight", "UseSleepLight"}, {"AdvancedUseOverlayScreen", "UseOverlayScreen"},
+        {"AdvancedDayOpacity", "DayOpacity"}, {"AdvancedNightOpacity", "NightOpacity"},
+        {"AdvancedDayDim", "DayDim"}, {"AdvancedNightDim", "NightDim"},
         {"AdvancedUseLightnessScreen", "UseLightnessScreen"},
         {"AdvancedLightnessScreenOpacity", "LightnessScreenOpacity"},
         {"AdvancedLightnessScreenRadius", "LightnessScreenRadius"},
@@ -121,12 +104,8 @@ TEST(AdvancedShadows, TheViewCopiesTwentyOneKeysInTableOrder)
     EXPECT_EQ(map["AdvancedNightTemperature"].toInt(), 2300);
     // A shadow that was never written empties its target.
     EXPECT_EQ(map["DayTemperature"].toInt(), 0);
-}
-
-TEST(AdvancedShadows, ShadowKeysCarryTheMonitorNumberBehind)
-{
+    // Per monitor, the number goes behind.
     EXPECT_EQ(AdvancedShadows::shadow_key("DayTemperature", 0), "AdvancedDayTemperature");
-    EXPECT_EQ(AdvancedShadows::shadow_key("DayTemperature", 2), "AdvancedDayTemperature2");
     EXPECT_EQ(AdvancedShadows::shadow_key("SleepBrightness", 12), "AdvancedSleepBrightness12");
 }
 
@@ -150,55 +129,41 @@ struct RefusingDisplay
 
 const ValueGiveWay::PeriodKeys NIGHT{"NightTemperature2", "NightBrightness2"};
 
-TEST(ValueGiveWay, AnAcceptedValueRunsTheDisplayOnce)
+TEST(ValueGiveWay, ARefusedPairGivesWayTowardsNeutral)
 {
-    SettingsMap map{{"NightTemperature2", 1200}, {"NightBrightness2", 40}};
-    RefusingDisplay display;
-    ValueGiveWay::after_temperature_change(map, NIGHT, display.callbacks());
-    EXPECT_EQ(display.calls, 1);
-    EXPECT_TRUE(display.shown.empty());
-    EXPECT_EQ(map["NightTemperature2"].toInt(), 1200);
-    EXPECT_EQ(map["NightBrightness2"].toInt(), 40);
-}
-
-TEST(ValueGiveWay, ATemperatureGivesWayOnBrightnessFirstThenWarmsUp)
-{
-    // 88 % goes 93, 98, 100 (capped), then the temperature 6350 goes 6450, 6500.
-    SettingsMap map{{"NightTemperature2", 6350}, {"NightBrightness2", 88}};
-    RefusingDisplay display;
-    display.refusals = 5;
-    ValueGiveWay::after_temperature_change(map, NIGHT, display.callbacks());
-    const std::vector<std::pair<char, int>> expected = {
-        {'b', 93}, {'b', 98}, {'b', 100}, {'t', 6450}, {'t', 6500}};
-    EXPECT_EQ(display.shown, expected);
-    EXPECT_EQ(display.calls, 6);
-    EXPECT_EQ(map["NightTemperature2"].toInt(), 6500);
-    EXPECT_EQ(map["NightBrightness2"].toInt(), 100);
-}
-
-TEST(ValueGiveWay, ABrightnessGivesWayOnTemperatureFirstThenBrightens)
-{
-    // 6280 K goes 6380, 6480, 6500 (capped), then 91 % goes 96, 100.
-    SettingsMap map{{"NightTemperature2", 6280}, {"NightBrightness2", 91}};
-    RefusingDisplay display;
-    display.refusals = 5;
-    ValueGiveWay::after_brightness_change(map, NIGHT, display.callbacks());
-    const std::vector<std::pair<char, int>> expected = {
-        {'t', 6380}, {'t', 6480}, {'t', 6500}, {'b', 96}, {'b', 100}};
-    EXPECT_EQ(display.shown, expected);
-    EXPECT_EQ(display.calls, 6);
-}
-
-TEST(ValueGiveWay, AHighBrightnessIsNotPulledDownToNeutral)
-{
-    // Above 100 % the brightness is left as it is; only the temperature moves.
-    SettingsMap map{{"NightTemperature2", 6300}, {"NightBrightness2", 120}};
-    RefusingDisplay display;
-    display.refusals = 2;
-    ValueGiveWay::after_temperature_change(map, NIGHT, display.callbacks());
-    const std::vector<std::pair<char, int>> expected = {{'t', 6400}, {'t', 6500}};
-    EXPECT_EQ(display.shown, expected);
-    EXPECT_EQ(map["NightBrightness2"].toInt(), 120);
+    // A temperature change gives way on brightness first, then warms up; a
+    // brightness change the other way round. Steps of 5 % and 100 K, capped
+    // at 100 % and 6500 K; above 100 % the brightness is left as it is.
+    using Shown = std::vector<std::pair<char, int>>;
+    const struct
+    {
+        bool temperature_changed;
+        int temperature, brightness, refusals;
+        Shown shown;
+        int final_temperature, final_brightness;
+    } cases[] = {
+        {true, 1200, 40, 0, {}, 1200, 40},
+        {true, 6350, 88, 5, {{'b', 93}, {'b', 98}, {'b', 100}, {'t', 6450}, {'t', 6500}}, 6500, 100},
+        {false, 6280, 91, 5, {{'t', 6380}, {'t', 6480}, {'t', 6500}, {'b', 96}, {'b', 100}}, 6500, 100},
+        {true, 6300, 120, 2, {{'t', 6400}, {'t', 6500}}, 6500, 120},
+    };
+    for (const auto& c : cases) {
+        SettingsMap map{{"NightTemperature2", c.temperature}, {"NightBrightness2", c.brightness}};
+        int calls = 0;
+        Shown shown;
+        const ValueGiveWay::Callbacks display{[&] { return ++calls <= c.refusals ? -1 : 0; },
+                                              [&](int t) { shown.push_back({'t', t}); },
+                                              [&](int b) { shown.push_back({'b', b}); }};
+        const ValueGiveWay::PeriodKeys night{"NightTemperature2", "NightBrightness2"};
+        if (c.temperature_changed)
+            ValueGiveWay::after_temperature_change(map, night, display);
+        else
+            ValueGiveWay::after_brightness_change(map, night, display);
+        EXPECT_EQ(shown, c.shown) << c.temperature << " K, " << c.brightness << " %";
+        EXPECT_EQ(calls, c.refusals + 1);
+        EXPECT_EQ(map["NightTemperature2"].toInt(), c.final_temperature);
+        EXPECT_EQ(map["NightBrightness2"].toInt(), c.final_brightness);
+    }
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "services/GeolocationRequest.h"
 #include "services/LocationParser.h"
 
@@ -19,21 +21,24 @@ public:
     ~ServiceAddress() { qunsetenv("OVRA_GEOLOCATION_URL"); }
 };
 
-// A one-connection HTTP stand-in: it records the request head and either
-// answers with a fixed reply or keeps silent.
+// A one-connection HTTP stand-in: it records the request head and answers
+// with a JSON body, or keeps silent when there is none.
 class FakeService : public QObject
 {
 public:
-    explicit FakeService(QByteArray reply) : reply(std::move(reply))
+    explicit FakeService(const QByteArray& body)
     {
+        if (!body.isEmpty())
+            reply = "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nContent-Length: " +
+                    QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
         server.listen(QHostAddress::LocalHost);
         connect(&server, &QTcpServer::newConnection, this, [this] {
             QTcpSocket* socket = server.nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
                 request += socket->readAll();
-                if (!request.contains("\r\n\r\n") || this->reply.isEmpty())
+                if (!request.contains("\r\n\r\n") || reply.isEmpty())
                     return;
-                socket->write(this->reply);
+                socket->write(reply);
                 socket->flush();
                 socket->disconnectFromHost();
             });
@@ -47,93 +52,63 @@ public:
     QByteArray request;
 };
 
-QByteArray http_ok(const QByteArray& body)
-{
-    return "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nContent-Length: "
-           + QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body;
-}
-
 // Runs the event loop until the reply is finished or a generous guard ends.
 bool wait_for_finish(QNetworkReply* reply)
 {
-    if (reply->isFinished())
-        return true;
     QEventLoop loop;
-    QTimer guard;
-    guard.setSingleShot(true);
-    QObject::connect(&guard, &QTimer::timeout, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    guard.start(30000);
-    loop.exec();
+    QTimer::singleShot(30000, &loop, &QEventLoop::quit);
+    if (!reply->isFinished())
+        loop.exec();
     return reply->isFinished();
 }
 
-TEST(GeolocationRequest, PublicServiceByDefault)
+TEST(GeolocationRequest, ServiceAddressAndTimeout)
 {
     qunsetenv("OVRA_GEOLOCATION_URL");
     EXPECT_EQ(GeolocationRequest::service_url(), QUrl(QStringLiteral("https://reallyfreegeoip.org/json/")));
-}
-
-TEST(GeolocationRequest, EnvironmentNamesAnotherBase)
-{
-    {
-        ServiceAddress address("http://127.0.0.1:8123");
-        EXPECT_EQ(GeolocationRequest::service_url(), QUrl(QStringLiteral("http://127.0.0.1:8123/json/")));
+    for (const char* base : {"http://127.0.0.1:8123", "http://127.0.0.1:8123/"}) {
+        ServiceAddress address(base);
+        EXPECT_EQ(GeolocationRequest::service_url(), QUrl(QStringLiteral("http://127.0.0.1:8123/json/"))) << base;
     }
-    {
-        ServiceAddress address("http://127.0.0.1:8123/");
-        EXPECT_EQ(GeolocationRequest::service_url(), QUrl(QStringLiteral("http://127.0.0.1:8123/json/")));
-    }
-}
-
-TEST(GeolocationRequest, RequestGivesUpAfterTenSeconds)
-{
+    // A service that hasn't answered after ten seconds has failed.
     EXPECT_EQ(GeolocationRequest::make_request().transferTimeout(), 10000);
 }
 
 TEST(GeolocationRequest, SendsAGetOfTheJsonPath)
 {
-    FakeService service(http_ok(R"({"latitude": 42.6977, "longitude": 23.3219})"));
+    FakeService service(R"({"latitude": 42.6977, "longitude": 23.3219})");
     ServiceAddress address(service.base());
     QNetworkAccessManager manager;
-    QNetworkReply* reply = GeolocationRequest::send(&manager);
-    ASSERT_TRUE(wait_for_finish(reply));
+    std::unique_ptr<QNetworkReply> reply(GeolocationRequest::send(&manager));
+    ASSERT_TRUE(wait_for_finish(reply.get()));
     EXPECT_EQ(reply->error(), QNetworkReply::NoError);
     EXPECT_TRUE(service.request.startsWith("GET /json/ HTTP/1.1\r\n")) << service.request.toStdString();
-
-    double latitude = -1.0;
-    double longitude = -1.0;
+    double latitude = -1.0, longitude = -1.0;
     EXPECT_TRUE(LocationParser::read_location(reply->readAll(), &latitude, &longitude));
     EXPECT_DOUBLE_EQ(latitude, 42.6977);
     EXPECT_DOUBLE_EQ(longitude, 23.3219);
-    reply->deleteLater();
 }
 
-TEST(GeolocationRequest, SilentServiceEndsInAnError)
+TEST(GeolocationRequest, SilentServiceOrClosedPortEndsInAnError)
 {
-    FakeService service{QByteArray()};
-    ServiceAddress address(service.base());
     QNetworkAccessManager manager;
-    QNetworkReply* reply = GeolocationRequest::send(&manager, 300);
-    ASSERT_TRUE(wait_for_finish(reply));
-    EXPECT_NE(reply->error(), QNetworkReply::NoError);
-    EXPECT_TRUE(service.request.startsWith("GET /json/"));
-    reply->deleteLater();
-}
-
-TEST(GeolocationRequest, ClosedPortEndsInAnError)
-{
+    {
+        FakeService silent{QByteArray()};
+        ServiceAddress address(silent.base());
+        std::unique_ptr<QNetworkReply> reply(GeolocationRequest::send(&manager, 300));
+        ASSERT_TRUE(wait_for_finish(reply.get()));
+        EXPECT_NE(reply->error(), QNetworkReply::NoError);
+        EXPECT_TRUE(silent.request.startsWith("GET /json/"));
+    }
     // A port that was just free: nothing listens there any more.
     QTcpServer probe;
     ASSERT_TRUE(probe.listen(QHostAddress::LocalHost));
-    const QByteArray base = "http://127.0.0.1:" + QByteArray::number(probe.serverPort());
+    ServiceAddress address("http://127.0.0.1:" + QByteArray::number(probe.serverPort()));
     probe.close();
-    ServiceAddress address(base);
-    QNetworkAccessManager manager;
-    QNetworkReply* reply = GeolocationRequest::send(&manager);
-    ASSERT_TRUE(wait_for_finish(reply));
+    std::unique_ptr<QNetworkReply> reply(GeolocationRequest::send(&manager));
+    ASSERT_TRUE(wait_for_finish(reply.get()));
     EXPECT_EQ(reply->error(), QNetworkReply::ConnectionRefusedError);
-    reply->deleteLater();
 }
 
 }

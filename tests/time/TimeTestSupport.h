@@ -8,7 +8,6 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QFile>
-#include <QString>
 #include <QStringList>
 #include <QTimeZone>
 
@@ -25,28 +24,21 @@ namespace time_test {
 class ScopedTimeZone
 {
 public:
-    explicit ScopedTimeZone(const char* zone)
+    explicit ScopedTimeZone(const char* zone) : had_old(std::getenv("TZ")), old_zone(qgetenv("TZ"))
     {
-        const char* old = std::getenv("TZ");
-        had_old = old != nullptr;
-        if (had_old)
-            old_zone = old;
         setenv("TZ", zone, 1);
         tzset();
     }
     ~ScopedTimeZone()
     {
-        if (had_old)
-            setenv("TZ", old_zone.constData(), 1);
-        else
-            unsetenv("TZ");
+        had_old ? setenv("TZ", old_zone.constData(), 1) : unsetenv("TZ");
         tzset();
     }
     ScopedTimeZone(const ScopedTimeZone&) = delete;
     ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
 
 private:
-    bool had_old = false;
+    bool had_old;
     QByteArray old_zone;
 };
 
@@ -82,24 +74,14 @@ inline std::vector<Row> read_table(const char* file_name)
     }
     const QStringList header = QString::fromUtf8(file.readLine()).trimmed().split(',');
     while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (line.isEmpty())
+        const QStringList cells = QString::fromUtf8(file.readLine()).trimmed().split(',');
+        if (cells.size() < 2)
             continue;
-        const QStringList cells = line.split(',');
-        Row row;
+        Row& row = rows.emplace_back();
         for (int i = 0; i < header.size() && i < cells.size(); ++i)
             row[header[i]] = cells[i];
-        rows.push_back(row);
     }
     return rows;
-}
-
-inline const Row* find_row(const std::vector<Row>& rows, const QString& name)
-{
-    for (const Row& row : rows)
-        if (row.at("name") == name)
-            return &row;
-    return nullptr;
 }
 
 } // namespace time_test

@@ -20,12 +20,28 @@ float towards_night(double f)
     return float(day_v + (night_v - day_v) * f);
 }
 
+// A fraction f of the way from `from` to the sleep value.
+float towards_sleep(float from, double f)
+{
+    return float(from * (1 - f) + sleep_v * f);
+}
+
+// One local instant of 2025-06-10, the value expected then and, unless -1,
+// the transition type.
+struct At
+{
+    int h, m, s, ms;
+    float expected;
+    int type = -1;
+    float tolerance = 0.002f; // a few units of the float, as at 6500
+};
+
 class ClockCurve : public testing::Test
 {
 protected:
     ClockCurve() : zone("Europe/Berlin") {}
 
-    // 21:00 to 07:00 with ramps of 1800 s, no sleep window.
+    // 21:00 to 07:00 with ramps of 1800 s, bedtime 23:00, no sleep window.
     static ClockInterpolationValues evening_night()
     {
         ClockInterpolationValues v;
@@ -48,159 +64,117 @@ protected:
         return curve.get_interpolated_value(v);
     }
 
+    void expect_curve(const ClockInterpolationValues& v, const std::vector<At>& instants)
+    {
+        for (const At& i : instants) {
+            const QString when = QTime(i.h, i.m, i.s, i.ms).toString("hh:mm:ss.zzz");
+            EXPECT_NEAR(at(v, i.h, i.m, i.s, i.ms), i.expected, i.tolerance) << when.toStdString();
+            if (i.type >= 0) {
+                EXPECT_EQ(curve.get_transition_type(), i.type) << when.toStdString();
+            }
+        }
+    }
+
     ScopedTimeZone zone;
     ScopedClock clock;
     ClockPosition curve;
 };
 } // namespace
 
-// --- The usual night across midnight ---------------------------------------
-
 TEST_F(ClockCurve, EveningNightHourByHour)
 {
-    const ClockInterpolationValues v = evening_night();
     // Half a minute past each hour: night until 06:00, day from 07:00 to
     // 20:00, night again from 21:00.
+    std::vector<At> instants;
     for (int h = 0; h < 24; ++h) {
-        const float expected = (h >= 7 && h <= 20) ? day_v : night_v;
-        const TransitionType type = (h >= 7 && h <= 20) ? TRANSITION_DAY : TRANSITION_NIGHT;
-        EXPECT_FLOAT_EQ(at(v, h, 0, 30), expected) << h << ":00:30";
-        EXPECT_EQ(curve.get_transition_type(), type) << h << ":00:30";
+        const bool day = h >= 7 && h <= 20;
+        instants.push_back({h, 0, 30, 0, day ? day_v : night_v, day ? TRANSITION_DAY : TRANSITION_NIGHT});
     }
+    expect_curve(evening_night(), instants);
 }
 
-TEST_F(ClockCurve, EveningRampFallsLinearlyToTheNightAt2100)
+TEST_F(ClockCurve, RampsRunLinearlyAndTheSetTimesFollowStrictComparisons)
 {
-    const ClockInterpolationValues v = evening_night();
-    EXPECT_FLOAT_EQ(at(v, 20, 30, 0), day_v);
-    EXPECT_FLOAT_EQ(at(v, 20, 36, 0), towards_night(0.2));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-    EXPECT_FLOAT_EQ(at(v, 20, 45, 0), towards_night(0.5));
-    EXPECT_FLOAT_EQ(at(v, 20, 54, 0), towards_night(0.8));
-    EXPECT_FLOAT_EQ(at(v, 21, 0, 1), night_v);
-}
-
-TEST_F(ClockCurve, MorningRampRisesLinearlyToTheDayAt0700)
-{
-    const ClockInterpolationValues v = evening_night();
-    EXPECT_FLOAT_EQ(at(v, 6, 29, 59), night_v);
-    EXPECT_FLOAT_EQ(at(v, 6, 36, 0), towards_night(0.8));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-    EXPECT_FLOAT_EQ(at(v, 6, 45, 0), towards_night(0.5));
-    EXPECT_FLOAT_EQ(at(v, 6, 54, 0), towards_night(0.2));
-    EXPECT_FLOAT_EQ(at(v, 7, 0, 1), day_v);
-}
-
-TEST_F(ClockCurve, InstantsExactlyAtTheSetTimesFollowTheStrictComparisons)
-{
-    const ClockInterpolationValues v = evening_night();
     // 21:00:00.000 is neither above 21:00 nor inside the ramp, but above
-    // 07:00: the day value, for that one millisecond.
-    EXPECT_FLOAT_EQ(at(v, 21, 0, 0), day_v);
-    // 07:00:00.000 matches no rule: the night value, type unchanged.
-    at(v, 12, 0);
-    EXPECT_FLOAT_EQ(at(v, 7, 0, 0), night_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-    EXPECT_FLOAT_EQ(at(v, 7, 0, 0, 1), day_v);
+    // 07:00: the day value, for that one millisecond. 07:00:00.000 matches no
+    // rule: the night value, the type unchanged.
+    expect_curve(evening_night(), {{20, 30, 0, 0, day_v}, {20, 36, 0, 0, towards_night(0.2), TRANSITION_NIGHT},
+                                   {20, 45, 0, 0, towards_night(0.5)}, {20, 54, 0, 0, towards_night(0.8)},
+                                   {21, 0, 1, 0, night_v}, {6, 29, 59, 0, night_v},
+                                   {6, 36, 0, 0, towards_night(0.8), TRANSITION_DAY},
+                                   {6, 45, 0, 0, towards_night(0.5)}, {6, 54, 0, 0, towards_night(0.2)},
+                                   {7, 0, 1, 0, day_v}, {21, 0, 0, 0, day_v}, {12, 0, 0, 0, day_v, TRANSITION_DAY},
+                                   {7, 0, 0, 0, night_v, TRANSITION_DAY}, {7, 0, 0, 1, day_v}});
 }
 
-TEST_F(ClockCurve, NightStartShortlyAfterMidnightWrapsItsRamp)
+TEST_F(ClockCurve, OtherNightsAndSleepWindows)
 {
-    ClockInterpolationValues v = evening_night();
-    v.night_start_hours = 0;
-    v.night_start_minutes = 10;
-    // The ramp runs from 23:40 today to 00:10 of tomorrow; the minutes after
-    // today's midnight are plain night.
-    EXPECT_FLOAT_EQ(at(v, 0, 5), night_v);
-    EXPECT_FLOAT_EQ(at(v, 0, 20), night_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 30), day_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 55), towards_night(0.5));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-}
-
-TEST_F(ClockCurve, ZeroTransitionChangesInOneStep)
-{
-    ClockInterpolationValues v = evening_night();
-    v.day_transition_duration = 0;
-    v.night_transition_duration = 0;
-    EXPECT_FLOAT_EQ(at(v, 20, 59, 59, 999), day_v);
-    EXPECT_FLOAT_EQ(at(v, 21, 0, 0, 1), night_v);
-    EXPECT_FLOAT_EQ(at(v, 6, 59, 59, 999), night_v);
-    EXPECT_FLOAT_EQ(at(v, 7, 0, 0, 1), day_v);
+    struct Case
+    {
+        const char* what;
+        int night_start_h, night_start_m, night_end_h, ramp, bed_h, bed_m, wake_h, sleep_ramp;
+        bool sleep;
+        std::vector<At> instants;
+    };
+    const Case cases[] = {
+        {"no ramps: one step", 21, 0, 7, 0, 23, 0, 7, 1800, false,
+         {{20, 59, 59, 999, day_v}, {21, 0, 0, 1, night_v}, {6, 59, 59, 999, night_v}, {7, 0, 0, 1, day_v}}},
+        // The ramp runs from 23:40 today to 00:10 of tomorrow; the minutes
+        // after today's midnight are plain night.
+        {"night from 00:10", 0, 10, 7, 1800, 23, 0, 7, 1800, false,
+         {{0, 5, 0, 0, night_v}, {0, 20, 0, 0, night_v}, {23, 30, 0, 0, day_v},
+          {23, 55, 0, 0, towards_night(0.5), TRANSITION_NIGHT}}},
+        // Ramps 00:30 to 01:00 and 05:30 to 06:00: each jumps to the far
+        // value at its start and runs back towards the near one.
+        {"night from 01:00 to 06:00", 1, 0, 6, 1800, 23, 0, 7, 1800, false,
+         {{0, 15, 0, 0, day_v, TRANSITION_DAY}, {0, 29, 59, 0, day_v}, {0, 30, 1, 0, night_v, -1, 2.0f},
+          {0, 35, 0, 0, towards_night(25.0 / 30.0), TRANSITION_NIGHT}, {0, 45, 0, 0, towards_night(0.5)},
+          {0, 59, 59, 0, day_v, -1, 2.0f}, {1, 0, 1, 0, night_v}, {3, 0, 0, 0, night_v}, {5, 29, 59, 0, night_v},
+          {5, 30, 1, 0, day_v, -1, 2.0f}, {5, 35, 0, 0, towards_night(5.0 / 30.0), TRANSITION_DAY},
+          {5, 59, 59, 0, night_v, -1, 2.0f}, {6, 0, 1, 0, day_v}, {12, 0, 0, 0, day_v}, {23, 0, 0, 0, day_v}}},
+        // Ramps of 1800 s end at bedtime and wake time; the instant of
+        // bedtime itself is outside the window. At 06:45 the curve is half
+        // way out of sleep and half way into the day.
+        {"sleep from 23:00 to 07:00", 21, 0, 7, 1800, 23, 0, 7, 1800, true,
+         {{22, 29, 0, 0, night_v, TRANSITION_NIGHT}, {22, 45, 0, 0, towards_sleep(night_v, 0.5), TRANSITION_SLEEP},
+          {23, 0, 0, 0, night_v}, {23, 0, 0, 1, sleep_v}, {0, 0, 1, 0, sleep_v}, {3, 0, 0, 0, sleep_v},
+          {6, 30, 0, 0, sleep_v}, {6, 45, 0, 0, towards_sleep(towards_night(0.5), 0.5)}, {7, 0, 1, 0, day_v}}},
+        {"sleep ramps in the day", 21, 0, 7, 1800, 19, 0, 9, 1800, true,
+         {{18, 36, 0, 0, towards_sleep(day_v, 0.2)}, {8, 36, 0, 0, towards_sleep(day_v, 0.8)},
+          {8, 54, 0, 0, towards_sleep(day_v, 0.2)}}},
+        // The bed ramp runs from 23:50 to 24:10 of today; in the first ten
+        // minutes after midnight no ramp is active, the window is in force.
+        {"bedtime 00:10", 21, 0, 7, 1800, 0, 10, 7, 1200, true,
+         {{23, 45, 0, 0, night_v}, {23, 55, 0, 0, towards_sleep(night_v, 0.25)}, {0, 5, 0, 0, sleep_v},
+          {0, 15, 0, 0, sleep_v}, {6, 0, 0, 0, sleep_v}}},
+        {"bedtime 01:00, wake 09:00", 21, 0, 7, 1800, 1, 0, 9, 1800, true,
+         {{0, 15, 0, 0, night_v}, {0, 45, 0, 0, towards_sleep(night_v, 0.5)}, {4, 0, 0, 0, sleep_v},
+          {8, 45, 0, 0, towards_sleep(day_v, 0.5)}, {12, 0, 0, 0, day_v}, {23, 30, 0, 0, night_v}}},
+    };
+    for (const Case& c : cases) {
+        ClockInterpolationValues v = evening_night();
+        v.night_start_hours = c.night_start_h;
+        v.night_start_minutes = c.night_start_m;
+        v.night_end_hours = c.night_end_h;
+        v.day_transition_duration = v.night_transition_duration = c.ramp;
+        v.bedtime_hours = c.bed_h;
+        v.bedtime_minutes = c.bed_m;
+        v.wake_time_hours = c.wake_h;
+        v.sleep_transition_duration = c.sleep_ramp;
+        v.use_sleep_light = c.sleep;
+        SCOPED_TRACE(c.what);
+        expect_curve(v, c.instants);
+    }
 }
 
 TEST_F(ClockCurve, UsesLocalMidnightOfTheZoneInForce)
 {
-    const ClockInterpolationValues v = evening_night();
     // 19:30 UTC is 21:30 in Berlin in summer: night; in New York 15:30: day.
+    const ClockInterpolationValues v = evening_night();
     clock.clock.set(QDateTime(QDate(2025, 6, 10), QTime(19, 30), QTimeZone::utc()));
     EXPECT_FLOAT_EQ(curve.get_interpolated_value(v), night_v);
     ScopedTimeZone new_york("America/New_York");
     EXPECT_FLOAT_EQ(curve.get_interpolated_value(v), day_v);
-}
-
-// --- A night inside one calendar day ------------------------------------
-
-TEST_F(ClockCurve, NightWithinOneDayRunsItsRampsBackwardsAndJumps)
-{
-    ClockInterpolationValues v = evening_night();
-    v.night_start_hours = 1;
-    v.night_end_hours = 6;
-    // Evening ramp 00:30 to 01:00, morning ramp 05:30 to 06:00.
-    EXPECT_FLOAT_EQ(at(v, 0, 15), day_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-    EXPECT_FLOAT_EQ(at(v, 0, 29, 59), day_v);
-    // Jump to night at 00:30, then back towards the day.
-    EXPECT_NEAR(at(v, 0, 30, 1), night_v, 2.0f);
-    EXPECT_FLOAT_EQ(at(v, 0, 35), towards_night(25.0 / 30.0));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-    EXPECT_FLOAT_EQ(at(v, 0, 45), towards_night(0.5));
-    EXPECT_NEAR(at(v, 0, 59, 59), day_v, 2.0f);
-    // Jump to night at 01:00.
-    EXPECT_FLOAT_EQ(at(v, 1, 0, 1), night_v);
-    EXPECT_FLOAT_EQ(at(v, 3, 0), night_v);
-    EXPECT_FLOAT_EQ(at(v, 5, 29, 59), night_v);
-    // Jump to day at 05:30, then back towards the night.
-    EXPECT_NEAR(at(v, 5, 30, 1), day_v, 2.0f);
-    EXPECT_FLOAT_EQ(at(v, 5, 35), towards_night(5.0 / 30.0));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-    EXPECT_NEAR(at(v, 5, 59, 59), night_v, 2.0f);
-    // Jump to day at 06:00.
-    EXPECT_FLOAT_EQ(at(v, 6, 0, 1), day_v);
-    EXPECT_FLOAT_EQ(at(v, 12, 0), day_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 0), day_v);
-}
-
-// --- The sleep window ----------------------------------------------------
-
-TEST_F(ClockCurve, SleepWindowFromBedtimeToWakeRamp)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_sleep_light = true;
-    // Bedtime 23:00, wake 07:00, ramps of 1800 s ending at the set times.
-    EXPECT_FLOAT_EQ(at(v, 22, 29), night_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-    EXPECT_FLOAT_EQ(at(v, 22, 45), float(night_v * 0.5 + sleep_v * 0.5));
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_SLEEP);
-    EXPECT_FLOAT_EQ(at(v, 23, 0, 1), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 0, 0, 1), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 3, 0), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 6, 30, 0), sleep_v);
-    // 06:45: half way out of sleep, and half way into the day.
-    EXPECT_FLOAT_EQ(at(v, 6, 45), float(towards_night(0.5) * 0.5 + sleep_v * 0.5));
-    EXPECT_FLOAT_EQ(at(v, 7, 0, 1), day_v);
-}
-
-TEST_F(ClockCurve, SleepRampsMixWithTheDayValue)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_sleep_light = true;
-    v.bedtime_hours = 19;
-    v.wake_time_hours = 9;
-    // Bed ramp 18:30 to 19:00 and wake ramp 08:30 to 09:00 lie in the day.
-    EXPECT_FLOAT_EQ(at(v, 18, 36), float(day_v * 0.8 + sleep_v * 0.2));
-    EXPECT_FLOAT_EQ(at(v, 8, 36), float(day_v * 0.2 + sleep_v * 0.8));
-    EXPECT_FLOAT_EQ(at(v, 8, 54), float(day_v * 0.8 + sleep_v * 0.2));
 }
 
 TEST_F(ClockCurve, MixesInDoubleAndNarrowsOnce)
@@ -208,133 +182,49 @@ TEST_F(ClockCurve, MixesInDoubleAndNarrowsOnce)
     // The factors and both mixes are double, narrowed to float only at the
     // end of each mix. These values were worked out apart from this code
     // with that rounding; mixing in float lands half a unit lower or higher.
-    struct Instant
-    {
-        int h, m, s, ms;
-        float expected;
-    };
     ClockInterpolationValues v = evening_night();
-    const Instant evening[] = {
-        {20, 40, 6, 85, 5456.18701f},
-        {20, 46, 49, 259, 4761.83154f},
-        {20, 54, 19, 31, 3987.22437f},
-    };
-    for (const Instant& i : evening)
-        EXPECT_EQ(at(v, i.h, i.m, i.s, i.ms), i.expected) << i.h << ":" << i.m << ":" << i.s;
-
+    EXPECT_EQ(at(v, 20, 40, 6, 85), 5456.18701f);
+    EXPECT_EQ(at(v, 20, 46, 49, 259), 4761.83154f);
+    EXPECT_EQ(at(v, 20, 54, 19, 31), 3987.22437f);
     // Into the sleep window, from the full night value.
     v.use_sleep_light = true;
-    const Instant bed[] = {
-        {22, 30, 1, 20, 3399.20679f},
-        {22, 38, 36, 619, 2998.1853f},
-        {22, 48, 6, 704, 2554.78589f},
-    };
-    for (const Instant& i : bed)
-        EXPECT_EQ(at(v, i.h, i.m, i.s, i.ms), i.expected) << i.h << ":" << i.m << ":" << i.s;
+    EXPECT_EQ(at(v, 22, 30, 1, 20), 3399.20679f);
+    EXPECT_EQ(at(v, 22, 38, 36, 619), 2998.1853f);
+    EXPECT_EQ(at(v, 22, 48, 6, 704), 2554.78589f);
 }
-
-TEST_F(ClockCurve, InstantOfBedtimeItselfIsOutsideTheWindow)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_sleep_light = true;
-    EXPECT_FLOAT_EQ(at(v, 23, 0, 0), night_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 0, 0, 1), sleep_v);
-}
-
-TEST_F(ClockCurve, BedtimeShortlyAfterMidnightWraps)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_sleep_light = true;
-    v.bedtime_hours = 0;
-    v.bedtime_minutes = 10;
-    v.sleep_transition_duration = 1200;
-    // The bed ramp runs from 23:50 to 24:10 of today; in the first ten
-    // minutes after midnight no ramp is active, the window is in force.
-    EXPECT_FLOAT_EQ(at(v, 23, 45), night_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 55), float(night_v * 0.75 + sleep_v * 0.25));
-    EXPECT_FLOAT_EQ(at(v, 0, 5), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 0, 15), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 6, 0), sleep_v);
-}
-
-TEST_F(ClockCurve, BedtimeAfterMidnightBeforeWaking)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_sleep_light = true;
-    v.bedtime_hours = 1;
-    v.wake_time_hours = 9;
-    // Bed ramp 00:30 to 01:00, window to 08:30, wake ramp to 09:00.
-    EXPECT_FLOAT_EQ(at(v, 0, 15), night_v);
-    EXPECT_FLOAT_EQ(at(v, 0, 45), float(night_v * 0.5 + sleep_v * 0.5));
-    EXPECT_FLOAT_EQ(at(v, 4, 0), sleep_v);
-    EXPECT_FLOAT_EQ(at(v, 8, 45), float(day_v * 0.5 + sleep_v * 0.5));
-    EXPECT_FLOAT_EQ(at(v, 12, 0), day_v);
-    EXPECT_FLOAT_EQ(at(v, 23, 30), night_v);
-}
-
-TEST_F(ClockCurve, SleepWindowOffWhenNotInUse)
-{
-    const ClockInterpolationValues v = evening_night();
-    EXPECT_FLOAT_EQ(at(v, 3, 0), night_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-}
-
-// --- Manual path and latch -------------------------------------------------
 
 TEST_F(ClockCurve, SleepTypeLatchesUntilTheManualPath)
 {
     ClockInterpolationValues v = evening_night();
     v.use_sleep_light = true;
     EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-    at(v, 3, 0);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_SLEEP);
-    // Midday: the value is the day's again, the type stays sleep.
-    EXPECT_FLOAT_EQ(at(v, 12, 0), day_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_SLEEP);
+    // Midday after a night in the window: the value is the day's again, the
+    // type stays sleep, whoever asks.
+    expect_curve(v, {{3, 0, 0, 0, sleep_v, TRANSITION_SLEEP}, {12, 0, 0, 0, day_v, TRANSITION_SLEEP}});
     curve.set_transition_type(TRANSITION_NIGHT);
     EXPECT_EQ(curve.get_transition_type(), TRANSITION_SLEEP);
 
+    // The manual value is the night value at any hour, and it releases the
+    // latch: the curve sets the type again.
     ClockInterpolationValues manual = v;
     manual.use_manual_value = true;
-    EXPECT_FLOAT_EQ(at(manual, 12, 0), night_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-    // Released: the curve sets the type again.
-    EXPECT_FLOAT_EQ(at(v, 12, 0), day_v);
-    EXPECT_EQ(curve.get_transition_type(), TRANSITION_DAY);
-}
-
-TEST_F(ClockCurve, ManualValueIsTheNightValueAtAnyHour)
-{
-    ClockInterpolationValues v = evening_night();
-    v.use_manual_value = true;
-    v.use_sleep_light = true;
-    for (int h = 0; h < 24; h += 3) {
-        EXPECT_FLOAT_EQ(at(v, h, 0), night_v);
-        EXPECT_EQ(curve.get_transition_type(), TRANSITION_NIGHT);
-    }
-    EXPECT_FLOAT_EQ(curve.get_interpolated_brightness(v), night_v);
-    EXPECT_FLOAT_EQ(curve.get_interpolated_color_temperature(v), night_v);
+    for (int h = 0; h < 24; h += 3)
+        expect_curve(manual, {{h, 0, 0, 0, night_v, TRANSITION_NIGHT}});
+    EXPECT_FLOAT_EQ(curve.get_interpolated_brightness(manual), night_v);
+    EXPECT_FLOAT_EQ(curve.get_interpolated_color_temperature(manual), night_v);
+    expect_curve(v, {{12, 0, 0, 0, day_v, TRANSITION_DAY}});
+    EXPECT_EQ(Singleton<ClockPosition>::s_instance, &curve);
 }
 
 TEST_F(ClockCurve, DayAndNightModeAreTheSameTest)
 {
     const ClockInterpolationValues v = evening_night();
-    clock.at_local(2025, 6, 10, 12, 0);
-    EXPECT_TRUE(curve.is_day_mode(v));
-    EXPECT_TRUE(curve.is_night_mode(v));
-    clock.at_local(2025, 6, 10, 22, 0);
-    EXPECT_FALSE(curve.is_day_mode(v));
-    EXPECT_FALSE(curve.is_night_mode(v));
-    clock.at_local(2025, 6, 10, 7, 0);
-    EXPECT_FALSE(curve.is_day_mode(v));
+    for (const auto& [h, day] : {std::pair{12, true}, {22, false}, {7, false}}) {
+        clock.at_local(2025, 6, 10, h, 0);
+        EXPECT_EQ(curve.is_day_mode(v), day) << h;
+        EXPECT_EQ(curve.is_night_mode(v), day) << h;
+    }
 }
-
-TEST_F(ClockCurve, RegistersAsTheSingleInstance)
-{
-    EXPECT_EQ(Singleton<ClockPosition>::s_instance, &curve);
-}
-
-// --- Strings ---------------------------------------------------------------
 
 TEST_F(ClockCurve, ClockTimeStrings)
 {
@@ -373,10 +263,7 @@ TEST_F(ClockCurve, DurationStrings)
     v.wake_time_hours = 23;
     v.wake_time_minutes = 50;
     EXPECT_EQ(curve.sleep_duration_string(v), "");
-}
-
-TEST_F(ClockCurve, TransitionDurationStrings)
-{
+    // Unlike the solar curve's, these leave out what is zero.
     EXPECT_EQ(curve.transition_duration_string(0), "0 sec");
     EXPECT_EQ(curve.transition_duration_string(90), "1 min 30 sec ");
     EXPECT_EQ(curve.transition_duration_string(60), "1 min ");

@@ -1,25 +1,19 @@
 #!/usr/bin/python3
 """Reference sunrises, sunsets and moon phases for the time tests, computed
-with PyEphem (Debian's python3-ephem), which shares no code with Ovra.
-
-Run once with Debian's interpreter and commit the output:
+with PyEphem (Debian's python3-ephem), which shares no code with Ovra. Run
+once and commit the output:
 
     /usr/bin/python3 tests/time/make_sun_reference.py tests/data
 
 Sun: rise and set are the moments the centre of the sun stands at -0.833
-degrees (refraction and the sun's radius folded into one angle, no separate
-refraction model). Ovra's calculator takes the day of the solar noon nearest
-to 00:00 UTC of the present UTC date, and reports that day's rise and set at
-their local clock time on the present local date. The table gives both the
-raw events and that expected result. Longitudes stay well away from 0 and
-180 degrees, where "nearest noon" would be ambiguous.
-
-Position: the sun's geometric altitude and azimuth (from the north, eastward)
-at 00:00 UTC of the present UTC date, the moment Ovra's whole-day numbering
-stands for.
-
-Moon: the instants of full and new moon from 2024 to 2027, and the lit
-fraction at some further instants.
+degrees (refraction and the sun's radius in one angle). Ovra takes the day of
+the solar noon nearest to 00:00 UTC of the present UTC date and reports its
+rise and set at their local clock time on the present local date; the table
+gives the raw events and that expected result. Longitudes stay well away from
+0 and 180 degrees, where "nearest noon" would be ambiguous. Position: the
+sun's geometric altitude and azimuth (from the north, eastward) at 00:00 UTC
+of the present UTC date. Moon: full and new moons of 2024 to 2027, and the lit
+fraction at further instants.
 """
 
 import csv
@@ -118,16 +112,12 @@ def sun_rows():
                 o.date = ephem.Date(utc_midnight)
                 sun.compute(o)
                 rows.append({
-                    "name": "%s_%s_%02d%02d" % (name, date, hour, minute),
-                    "tz": tz, "latitude": lat, "longitude": lon,
-                    "now_ms": ms(now),
-                    "rise_event_ms": ms(rise), "set_event_ms": ms(sett),
+                    "name": "%s_%s_%02d%02d" % (name, date, hour, minute), "tz": tz, "latitude": lat,
+                    "longitude": lon, "now_ms": ms(now), "rise_event_ms": ms(rise), "set_event_ms": ms(sett),
                     "expected_rise_ms": on_local_date(rise, zone, local.date()),
-                    "expected_set_ms": on_local_date(sett, zone, local.date()),
-                    "polar": "",
+                    "expected_set_ms": on_local_date(sett, zone, local.date()), "polar": "",
                     "midnight_altitude": "%.4f" % math.degrees(sun.alt),
-                    "midnight_azimuth": "%.4f" % math.degrees(sun.az),
-                })
+                    "midnight_azimuth": "%.4f" % math.degrees(sun.az)})
     for name, tz, lat, lon, date in POLAR:
         zone = ZoneInfo(tz)
         local = dt.datetime.fromisoformat(date).replace(hour=12, tzinfo=zone)
@@ -140,13 +130,10 @@ def sun_rows():
             polar = "up"
         except ephem.NeverUpError:
             polar = "down"
-        rows.append({
-            "name": name, "tz": tz, "latitude": lat, "longitude": lon,
-            "now_ms": ms(local.astimezone(UTC)),
-            "rise_event_ms": "", "set_event_ms": "",
-            "expected_rise_ms": "", "expected_set_ms": "",
-            "polar": polar, "midnight_altitude": "", "midnight_azimuth": "",
-        })
+        rows.append({"name": name, "tz": tz, "latitude": lat, "longitude": lon,
+                     "now_ms": ms(local.astimezone(UTC)), "rise_event_ms": "", "set_event_ms": "",
+                     "expected_rise_ms": "", "expected_set_ms": "", "polar": polar,
+                     "midnight_altitude": "", "midnight_azimuth": ""})
     return rows
 
 
