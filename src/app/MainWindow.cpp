@@ -19,6 +19,7 @@
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
 #include "settings/SettingsHost.h"
+#include "web/PageWindows.h"
 #include "spells/HiddenFeatures.h"
 
 namespace {
@@ -34,7 +35,8 @@ int MainWindow::screen_count_override = -1;
 
 SettingsHost main_window_settings_host();
 
-MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
+MainWindow::MainWindow(QObject* parent)
+    : OvraWindow(PageWindows::SETTINGS_WINDOW, QStringLiteral("main_screen.html"), parent)
 {
     set_settings_host_source(main_window_settings_host);
     network_manager = new QNetworkAccessManager(this);
@@ -46,7 +48,6 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
     screen_count = 1;
     app_settings = new Settings(this);
 
-    setup_window_properties();
     restore_saved_settings();
     if (!setting_true(settings, "OptimizeUiCreation"))
         create_ovra_ui();

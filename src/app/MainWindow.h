@@ -40,7 +40,7 @@ class MainWindow : public OvraWindow, public Singleton<MainWindow>
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget* parent = nullptr);
+    explicit MainWindow(QObject* parent = nullptr);
     ~MainWindow() override;
 
     std::map<QString, QVariant> settings;
@@ -92,6 +92,23 @@ public slots:
     void set_gamma_ui();
     void force_refresh() {}
     void application_state_changed(Qt::ApplicationState state);
+    void minimize_window();
+
+signals:
+    // Once a restore push has reached the page: its model is ready.
+    void settings_restored();
+    void enable_all_gamma_options();
+
+public:
+    // The settings page's window as the host reports it.
+    void page_close_requested() override;
+    void page_escape_pressed() override;
+    void page_gone() override;
+    void page_connected(bool in_host) override;
+    // Also offers the settings page to any browser on this machine.
+    bool offer_settings_to_browsers(quint16 port);
+
+public slots:
 
     // The tick.
     int update_gamma();
@@ -160,20 +177,14 @@ public slots:
     void refresh_leading_color();
     void refresh_preserve_gamma();
 
-protected:
-    void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    bool nativeEvent(const QByteArray& eventType, void* message, qintptr* result) override;
-
 private:
-    void setup_window_properties();
-    void setup_window_attributes() {}
     void set_window_opacity(double) {}
+    WindowSpec settings_window_spec() const;
+    // The one-shot flags of the load belong to one page: a new page, in
+    // the host or a browser, gets the whole sequence again.
+    void forget_page();
     void setup_timers();
     void second_tick();
-    void setup_gamma_timers();
     void setup_signal_handlers();
     void setup_last_words();
     // The save of every way out, when the user keeps auto-save on.
@@ -218,7 +229,10 @@ private:
     bool window_opened_once = false;
     bool open_after_load = false;
     bool first_start = false;
-    bool ui_created = false;
+    bool page_in_host = true;
+    QSize window_size;
+    // Keeps a settings page hidden by a close warm for a while, then ends it.
+    QTimer* page_warm_timer = nullptr;
     bool fix_gamma_requested = false;
     bool quitting = false;
     // Read by the tick every second.

@@ -1,95 +1,98 @@
-// The window of the controller: how it opens once the page is ready, how it
-// closes, and the hooks of its fade.
-#include <QCloseEvent>
+// The settings window: how it opens once its page is ready, how it closes,
+// and the hooks of its fade. The window lives in the window host; the page
+// in it connects to this object by itself, and the handshake runs over that
+// channel, so the page and the host can come and go.
 #include <QCoreApplication>
-#include <QGridLayout>
-#include <QGuiApplication>
-#include <QKeyEvent>
+#include <cstdlib>
 #include <iostream>
 
 #include "app/MainWindow.h"
-#include "base/Singleton.h"
 #include "services/Updater.h"
+#include "settings/SaveKeys.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
+#include "tray/ITrayIcon.h"
+#include "web/PageWindows.h"
 
 namespace {
-const int START_WIDTH = 495;
-const int START_HEIGHT = 475;
-
-bool setting_true(const std::map<QString, QVariant>& settings, const char* key)
+const QSize START_SIZE(495, 475);
+// Five minutes, unless a test shortens it.
+int warm_period_msecs()
 {
-    const auto it = settings.find(QString::fromLatin1(key));
-    return it != settings.end() && it->second.toBool();
+    const int given = qEnvironmentVariableIntValue("OVRA_PAGE_WARM_MSECS");
+    return given > 0 ? given : 5 * 60 * 1000;
 }
 } // namespace
 
-// ---------------------------------------------------------------- window
-
-void MainWindow::setup_window_properties()
+WindowSpec MainWindow::settings_window_spec() const
 {
-    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint);
-    setWindowFlags(windowFlags() | Qt::WindowCloseButtonHint);
-    setWindowFlags(windowFlags() | Qt::WindowMinimizeButtonHint);
-    setup_window_attributes();
-    set_window_opacity(1.0);
-    resize(START_WIDTH, START_HEIGHT);
-    setFixedSize(width(), height());
+    WindowSpec spec;
+    spec.size = window_size.isValid() ? window_size : START_SIZE;
+    spec.title = QCoreApplication::applicationName();
+    return spec;
+}
+
+void MainWindow::forget_page()
+{
+    ovra_loaded = false;
+    window_opened_once = false;
 }
 
 bool MainWindow::create_ovra_ui()
 {
-    if (ui_created)
+    if (is_page_open())
         return false;
-    ui_created = true;
-    auto* layout = new QGridLayout(this);
-    layout->setSpacing(0);
-    layout->setContentsMargins(0, 0, 0, 0);
-    refresh_size(START_WIDTH, START_HEIGHT);
-    setWindowTitle(QCoreApplication::applicationName());
-    // The page reports that it loaded from the event loop; the empty dialog
-    // does the same so that the window's start-up road stays one road.
-    QTimer::singleShot(0, this, &MainWindow::load_finished);
-    return true;
+    forget_page();
+    page_in_host = true;
+    return open_page(settings_window_spec(), ShowState::Hidden);
 }
 
-void MainWindow::refresh_size(int width, int height)
+void MainWindow::page_connected(bool in_host)
 {
-    setFixedSize(width, height);
+    forget_page();
+    page_in_host = in_host;
 }
 
-void MainWindow::resize_window(int width, int height)
+void MainWindow::page_gone()
 {
-    refresh_size(width, height);
+    OvraWindow::page_gone();
+    forget_page();
+    open_after_load = false;
+    if (page_warm_timer)
+        page_warm_timer->stop();
 }
 
+// The page calls this once its channel is ready; a page that loads again,
+// or a new one, calls it again and gets the whole sequence.
 void MainWindow::load_finished()
 {
     if (ovra_loaded)
         return;
     ovra_loaded = true;
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-            &MainWindow::application_state_changed);
     set_gamma_ui();
     load_finished_linux();
     update_times_info();
-    open_ovra_after_load_finished();
+    if (tray_icon)
+        tray_icon->refresh_tray_icon_menu();
 }
 
+// What used to realise the window and minimise it is left to the end state:
+// the window shows when an open was asked for, and stays hidden otherwise.
 void MainWindow::load_finished_linux()
 {
-    activateWindow();
-    QCoreApplication::processEvents();
     restore_settings();
     force_refresh();
-    showMinimized();
 }
 
-void MainWindow::set_gamma_ui() {}
+void MainWindow::set_gamma_ui()
+{
+    emit enable_all_gamma_options();
+}
 
 void MainWindow::set_open_ovra_after_load_finished(bool value)
 {
-    create_ovra_ui();
+    if (!is_page_open())
+        create_ovra_ui();
     open_after_load = value;
 }
 
@@ -105,12 +108,22 @@ void MainWindow::open_ovra_after_load_finished()
 
 void MainWindow::bring_to_front()
 {
-    if (setting_true(settings, "OptimizeUiCreation") && create_ovra_ui()) {
-        open_after_load = true;
-        hide();
+    // A page that a browser took over leaves only a notice in the host's
+    // window: the window the user asks for gets a page of its own again.
+    if (is_page_open() && !page_in_host)
+        close_page();
+    if (!is_page_open()) {
+        if (create_ovra_ui())
+            open_after_load = true;
         return;
     }
-    showNormal();
+    if (!ovra_loaded) {
+        open_after_load = true;
+        return;
+    }
+    if (page_warm_timer)
+        page_warm_timer->stop();
+    show_page(ShowState::Normal);
 }
 
 void MainWindow::application_state_changed(Qt::ApplicationState state)
@@ -119,36 +132,39 @@ void MainWindow::application_state_changed(Qt::ApplicationState state)
         set_window_opacity(1.0);
 }
 
-void MainWindow::closeEvent(QCloseEvent* event)
+void MainWindow::refresh_size(int width, int height)
+{
+    window_size = QSize(width, height);
+    resize_page(window_size);
+}
+
+void MainWindow::resize_window(int width, int height)
+{
+    refresh_size(width, height);
+}
+
+bool MainWindow::offer_settings_to_browsers(quint16 port)
+{
+    return PageWindows::instance()->offer_to_browsers(port);
+}
+
+// ---------------------------------------------------------------- closing
+
+void MainWindow::page_close_requested()
 {
     // With no tray icon there would be no way back to the program: closing
     // the window ends it.
-    std::cout << "Tray icon is not visible" << std::endl;
-    event->accept();
-    quit();
-}
-
-void MainWindow::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape) {
+    if (tray_icon && tray_icon->is_visible()) {
         close_clicked();
         return;
     }
-    OvraWindow::keyPressEvent(event);
+    std::cout << "Tray icon is not visible" << std::endl;
+    quit();
 }
 
-void MainWindow::wheelEvent(QWheelEvent*) {}
-
-bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+void MainWindow::page_escape_pressed()
 {
-    if (event->type() == QEvent::FocusIn)
-        force_refresh();
-    return OvraWindow::eventFilter(watched, event);
-}
-
-bool MainWindow::nativeEvent(const QByteArray&, void*, qintptr*)
-{
-    return false;
+    close_clicked();
 }
 
 void MainWindow::close_clicked()
@@ -175,18 +191,43 @@ void MainWindow::save_and_close_clicked()
         Updater::s_instance->check_for_new_version();
 }
 
+// A minimised window is still a window (it is on the task bar); a hidden
+// one is kept warm for a while, and with DestroyUiOnClose it ends at once,
+// and with it the host when nothing else is open.
 void MainWindow::close_window()
 {
-    if (!SaveManager::s_instance || !SaveManager::s_instance->hideTaskbarIcon())
-        showMinimized();
-    else
-        hide();
+    if (settings[SaveKeys::DESTROY_UI_ON_CLOSE].toBool()) {
+        close_page();
+        return;
+    }
+    if (!SaveManager::s_instance || !SaveManager::s_instance->hideTaskbarIcon()) {
+        minimize_window();
+        return;
+    }
+    hide_page();
+    if (!page_warm_timer) {
+        page_warm_timer = new QTimer(this);
+        page_warm_timer->setSingleShot(true);
+        connect(page_warm_timer, &QTimer::timeout, this, [this] {
+            if (!is_page_visible())
+                close_page();
+        });
+    }
+    page_warm_timer->start(warm_period_msecs());
 }
 
 void MainWindow::minimize_clicked()
 {
-    showMinimized();
+    minimize_window();
 }
+
+void MainWindow::minimize_window()
+{
+    if (is_page_open())
+        show_page(ShowState::Minimized);
+}
+
+// ---------------------------------------------------------------- the fade
 
 void MainWindow::begin_showing()
 {
@@ -213,10 +254,12 @@ void MainWindow::fade_window()
             return;
         }
         window_fade = 0.0f;
-        hide();
+        hide_page();
     }
     set_window_opacity(window_showing ? window_fade : 1.0 - window_fade);
 }
+
+// ---------------------------------------------------------------- settings
 
 void MainWindow::restore_saved_settings()
 {
@@ -228,18 +271,18 @@ void MainWindow::restore_settings()
 {
     restore_saved_settings();
     app_settings->restore();
+    emit settings_restored();
 }
 
 void MainWindow::check_for_first_start()
 {
-    if (!setting_true(settings, "IsFirstStart"))
+    if (!settings[SaveKeys::IS_FIRST_START].toBool())
         return;
     first_start = true;
     std::cout << "First start" << std::endl;
-    settings[QStringLiteral("IsFirstStart")] = false;
+    settings[SaveKeys::IS_FIRST_START] = false;
     if (SaveManager::s_instance)
         SaveManager::s_instance->first_start_finished();
 }
 
 void MainWindow::setup_ovra_icon() {}
-

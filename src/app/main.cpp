@@ -36,6 +36,10 @@ int main(int argc, char** argv)
         for (int i = 0; i < argc; ++i) {
             if (qstrcmp(argv[i], "--show_ui") == 0)
                 window.set_open_ovra_after_load_finished(true);
+            // Its own line when the port is busy; the program and its own
+            // windows go on without the browser road.
+            if (qstrcmp(argv[i], "--web-bridge") == 0)
+                window.offer_settings_to_browsers(12311);
         }
     }
     QObject::connect(&app, SIGNAL(process_arguments()), &window, SLOT(process_api_command()));

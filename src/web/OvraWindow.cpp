@@ -1,0 +1,84 @@
+#include "web/OvraWindow.h"
+
+#include <cstdio>
+
+#include "web/PageWindows.h"
+
+OvraWindow::OvraWindow(const QString& window, const QString& page, QObject* parent)
+    : QObject(parent), name(window), page(page)
+{
+    PageWindows::instance()->add(this);
+}
+
+OvraWindow::~OvraWindow()
+{
+    PageWindows::instance()->remove(this);
+}
+
+PageWindows* OvraWindow::windows() const
+{
+    return PageWindows::instance();
+}
+
+bool OvraWindow::open_page(const WindowSpec& spec, ShowState state)
+{
+    loaded = false;
+    visible = state != ShowState::Hidden;
+    return windows()->open(this, spec, state);
+}
+
+bool OvraWindow::is_page_open() const
+{
+    return windows()->host()->has_window(name);
+}
+
+void OvraWindow::show_page(ShowState state, quint32 user_time)
+{
+    visible = state != ShowState::Hidden;
+    windows()->host()->show(name, state, user_time);
+}
+
+void OvraWindow::hide_page()
+{
+    visible = false;
+    windows()->host()->hide(name);
+}
+
+void OvraWindow::close_page()
+{
+    visible = false;
+    loaded = false;
+    windows()->host()->close(name);
+}
+
+void OvraWindow::resize_page(const QSize& size)
+{
+    windows()->host()->resize(name, size);
+}
+
+void OvraWindow::evaluate_JavaScript(const QString& script)
+{
+    windows()->host()->evaluate(name, script);
+}
+
+void OvraWindow::page_loaded(bool ok)
+{
+    loaded = ok;
+}
+
+void OvraWindow::page_state_changed(ShowState state)
+{
+    visible = state != ShowState::Hidden;
+}
+
+void OvraWindow::page_gone()
+{
+    loaded = false;
+    visible = false;
+}
+
+void OvraWindow::log(QString message)
+{
+    std::printf("%s\n", message.toUtf8().constData());
+    std::fflush(stdout);
+}
