@@ -1,0 +1,151 @@
+// The settings page with no program behind it, as a browser shows it from a
+// plain server: it comes up through the channel's error road and writes each
+// call for the native side to the console, which is what these tests read.
+import test from "node:test";
+import assert from "node:assert/strict";
+import { open_browser, open_page, screenshot, SOURCE_DIR } from "./lib/browser.mjs";
+import { start_static_server } from "./lib/static_server.mjs";
+
+const { server, base } = await start_static_server(SOURCE_DIR);
+const browser = await open_browser();
+test.after(async () => {
+  await browser.close();
+  server.close();
+});
+
+async function fresh_page(query = "") {
+  const opened = await open_page(browser, base + "main_screen.html?window=main" + query);
+  opened.reports = (name) => opened.calls.filter((call) => call.name === name).map((call) => call.args);
+  return opened;
+}
+
+// Opens a page of the advanced view by its label, also one the menu of
+// this platform leaves out.
+async function show_page(page, label) {
+  if (!(await page.isChecked("#use-advanced-settings-checkbox"))) {
+    await page.click("label.slide-switch");
+  }
+  assert.equal(await page.evaluate((text) => page_loading.open_page(text), label), true, label);
+}
+
+test("comes up on its own, as on Linux, without errors", async () => {
+  const { page, errors } = await fresh_page();
+  assert.deepEqual(errors, []);
+  const types = await page.$$eval("#ovra-type option", (options) => options.map((o) => o.value));
+  assert.deepEqual(types, ["1", "2", "4", "5", "6", "8"]);
+  assert.equal(await page.$$eval(".advanced-settings-menu li:not(.linux)", (items) => items.length), 0);
+  assert.equal(await page.isVisible(".minimize"), false);
+  await page.close();
+});
+
+test("every menu entry opens its page, and its title bar leads back", async () => {
+  const { page } = await fresh_page();
+  assert.equal(await page.$$eval(".view-advanced .page", (pages) => pages.length), 36);
+  await page.click("label.slide-switch");
+  const entries = await page.$$eval(".advanced-settings-menu li:visible .menu-text",
+    (texts) => texts.map((t) => t.textContent));
+  assert.ok(entries.length >= 15, entries.join(", "));
+  for (const entry of entries) {
+    await page.click(`.advanced-settings-menu li:has-text("${entry}") a`);
+    assert.equal(await page.textContent(".page:visible .settings-page-label"), entry);
+    await page.click(".page:visible .settings-page-title");
+    assert.equal(await page.isVisible("#advanced-settings-menu-holder"), true, entry);
+  }
+  await page.close();
+});
+
+test("a user's change reports once; a value from the native side moves silently", async () => {
+  const { page, reports } = await fresh_page();
+  await page.evaluate(() => start_on_startup.set_start_on_startup(true));
+  assert.equal(await page.isChecked("#checkbox-start-on-startup"), true);
+  assert.deepEqual(reports("start_on_startup_changed"), []);
+  await show_page(page, "System");
+  await page.click("label:has(#checkbox-start-on-startup)");
+  assert.deepEqual(reports("start_on_startup_changed"), ["false"]);
+  await page.click("label.slide-switch");
+
+  await page.click("#ovra-mode-button");
+  await page.click("#ovra-mode-menu li:has-text('Manual')");
+  assert.deepEqual(reports("ovra_mode_changed_force"), ["2, false"]);
+  await page.evaluate(() => ovra_mode.set_ovra_mode_dropdown_value_ui(3));
+  assert.equal(await page.textContent("#ovra-mode-button .ui-selectmenu-text"), "Paused");
+  assert.deepEqual(reports("ovra_mode_changed_force"), ["2, false"]);
+  await page.close();
+});
+
+test("the blue light is the temperature in steps of 65 K", async () => {
+  const { page, reports } = await fresh_page();
+  await page.evaluate(() => day_blue_light.set_day_temperature_slider_value(6500));
+  assert.equal(await page.textContent("#day-blue-light-slider-value"), "100%");
+  await page.evaluate(() => day_blue_light.set_day_temperature_slider_value(3640));
+  await show_page(page, "Blue light");
+  await page.focus("#day-blue-light-slider .ui-slider-handle");
+  await page.keyboard.press("ArrowRight");
+  assert.deepEqual(reports("day_temperature_changed"), ["3705, 0"]);
+  await page.close();
+});
+
+test("the brightness range starts at 5 when restored, at 10 when clicked", async () => {
+  const { page } = await fresh_page();
+  const minimum = () => page.evaluate(() => $("#day-brightness-slider").slider("option", "min"));
+  assert.equal(await minimum(), 20);
+  await page.evaluate(() => brightness_extended_values.set_brightness_extended_values(true));
+  assert.equal(await minimum(), 5);
+  await page.evaluate(() => brightness_extended_values.set_brightness_extended_values(false));
+  await show_page(page, "Brightness");
+  await page.click("label:has(#checkbox-brightness-extended-values)");
+  assert.equal(await minimum(), 10);
+  await page.close();
+});
+
+test("number boxes keep to their range and show their unit", async () => {
+  const { page, reports } = await fresh_page();
+  await show_page(page, "Timer");
+  for (const [typed, shown] of [["99999", "1440 min"], ["0", "1 min"], ["abc", "1 min"], ["45", "45 min"]]) {
+    await page.click("#workTimeBox");
+    await page.keyboard.type(typed);
+    await page.keyboard.press("Enter");
+    assert.equal(await page.inputValue("#workTimeBox"), shown, typed);
+  }
+  assert.deepEqual(reports("work_time_changed"), ["1440", "1", "45"]);
+  await page.close();
+});
+
+test("a list is sent on every edit, but only once it has arrived", async () => {
+  const { page, reports } = await fresh_page();
+  await show_page(page, "Color pausers");
+  await page.fill("#color-pausers-textarea", "early");
+  assert.deepEqual(reports("save_color_pausers"), []);
+  await page.evaluate(() => lists.receive("color_pausers", "gimp"));
+  await page.evaluate(() => set_current_active_process("vlc"));
+  assert.equal(await page.textContent("#current-color-pauser-process"), "Add vlc");
+  await page.click("#current-color-pauser-process");
+  await page.click("#current-color-pauser-process");
+  assert.equal(await page.inputValue("#color-pausers-textarea"), "gimp");
+  await page.type("#color-pausers-textarea", "\nmpv");
+  assert.equal(reports("save_color_pausers").at(-1), "gimp\nmpv");
+  await page.close();
+});
+
+test("a page opened elsewhere says so over everything", async () => {
+  const { page } = await fresh_page();
+  await page.evaluate(() => web_channel_closed({ code: 4001 }));
+  assert.equal(await page.isVisible(".channel-notice .opened-elsewhere"), true);
+  assert.equal(await page.isVisible(".channel-notice .connection-closed"), false);
+  await page.close();
+});
+
+for (const scale of [1, 2]) {
+  test(`basic and advanced views at ${scale}x`, async () => {
+    const { page } = await fresh_page(scale === 2 ? "&scale=2" : "");
+    const size = () => page.evaluate(() => [window_dimensions.get_window_width(),
+      window_dimensions.get_window_height()]);
+    assert.deepEqual(await size(), [495 * scale, 475 * scale]);
+    await screenshot(page, `basic-${scale}x`);
+    await page.click("label.slide-switch");
+    await screenshot(page, `advanced-${scale}x`);
+    await page.click(".advanced-settings-menu li:has-text('Blue light') a");
+    await screenshot(page, `blue-light-${scale}x`);
+    await page.close();
+  });
+}
