@@ -29,6 +29,9 @@ var OFF = "Off";
 var FEATURE_ON_OFF = "Point at a page to see whether it is in use";
 var LOADING = "Loading...";
 
+// True once the last text of a translation pass has arrived.
+var translation_done = false;
+
 var current_active_process_name = "";
 var current_process_shown = false;
 
@@ -293,6 +296,7 @@ function translate() {
     });
   });
   native_call("GET_STRING", "REFRESH_DROPDOWNS_PLACEHOLDER", function () {
+    translation_done = true;
     refresh_dropdowns();
     redraw_units();
     lists.refresh_buttons();
