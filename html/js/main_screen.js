@@ -200,9 +200,7 @@ function setup_ovra_os(os_name) {
     return;
   }
   $(".main-window-container").addClass(os_class);
-  if (os_name === "Linux" || os_name === "OSX") {
-    window_dimensions.use_shadow_margin = false;
-  }
+  window_dimensions.use_shadow_margin = os_name === "Windows" || os_name === "Windows XP";
   if (os_name === "Linux") {
     $(".minimize, .exit").hide();
   }
@@ -265,7 +263,10 @@ var PAGE_WORDS = {
   ON: function (text) { ON = text; },
   OFF: function (text) { OFF = text; },
   FEATURE_ON_OFF: function (text) { FEATURE_ON_OFF = text; },
-  LOADING: function (text) { LOADING = text; }
+  LOADING: function (text) {
+    LOADING = text;
+    $("#GeoResults.loading").text(text);
+  }
 };
 
 // Every element with data-tr takes the text of its key (data-tr-placeholder
@@ -334,7 +335,7 @@ function set_current_active_process(name) {
 
 // The place is looked up natively, which then sends the text to show.
 function find_geolocation() {
-  $("#GeoResults").text(LOADING);
+  $("#GeoResults").addClass("loading").text(LOADING);
 }
 
 function open_advanced_view() {

@@ -50,7 +50,7 @@ exports.set_pwm_control_status = function (status, value) {
 };
 
 exports.set_geolocation_string = function (text) {
-  $("#GeoResults").text(text);
+  $("#GeoResults").removeClass("loading").text(text);
 };
 
 exports.set_current_application_name = function (text) {
