@@ -127,6 +127,37 @@ test("a list is sent on every edit, but only once it has arrived", async () => {
   await page.close();
 });
 
+test("keys: Up and Down move the menu, a combination is recorded by its names", async () => {
+  const { page, reports } = await fresh_page();
+  await page.click("label.slide-switch");
+  const scrolled = () => page.$eval("#advanced-settings-menu-holder", (holder) => holder.scrollTop);
+  await page.keyboard.press("ArrowDown");
+  assert.equal(await scrolled(), 50);
+  await page.keyboard.press("ArrowUp");
+  await page.keyboard.press("ArrowUp");
+  assert.equal(await scrolled(), 0);
+  await show_page(page, "Shortcuts");
+  for (const [keys, text] of [["Control+Alt+KeyK", "Ctrl+Alt+K"], ["Shift+F5", "Shift+F5"],
+    ["Control+Alt+PageUp", "Ctrl+Alt+PgUp"], ["Control+Alt", "Ctrl+Alt+"]]) {
+    await page.focus("#feature-shortcut");
+    await page.keyboard.press(keys);
+    assert.equal(await page.inputValue("#feature-shortcut"), text);
+    assert.equal(reports("shortcut_changed").at(-1), "1, " + text);
+  }
+  await page.close();
+});
+
+test("the monitor tabs follow the screen count", async () => {
+  const { page } = await fresh_page();
+  await page.evaluate(() => use_per_monitor_settings.set_use_per_monitor_settings(true));
+  for (const [count, tabs, small] of [[2, 2, false], [3, 3, false], [4, 4, true]]) {
+    await page.evaluate((n) => manage_monitors.set_screen_count(n), count);
+    assert.equal(await page.$$eval(".monitors label:visible", (labels) => labels.length), tabs);
+    assert.equal(await page.$eval(".monitors", (m) => m.classList.contains("small")), small);
+  }
+  await page.close();
+});
+
 test("a page opened elsewhere says so over everything", async () => {
   const { page } = await fresh_page();
   await page.evaluate(() => web_channel_closed({ code: 4001 }));

@@ -44,7 +44,7 @@ function on_keydown(event) {
 // the keys.
 function scroll_menu(event) {
   var holder = document.getElementById("advanced-settings-menu-holder");
-  if (!holder || !$(holder).is(":visible") || $(event.target).is("input, textarea, select")) {
+  if (!holder || !$(holder).is(":visible") || $(event.target).is("input[type='text'], textarea")) {
     return;
   }
   if (event.keyCode === 38) {
