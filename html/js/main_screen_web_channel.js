@@ -49,7 +49,8 @@ function web_channel_address(location_object) {
   var segments = location_object.pathname.split("/").filter(function (segment) {
     return segment.length > 0;
   });
-  var token = query.get("token") || (segments.length > 1 ? segments[0] : "");
+  var first = segments.length > 0 ? segments[0] : "";
+  var token = query.get("token") || (/\.html?$/.test(first) ? "" : first);
   var window_name = query.get("window") || "main";
   return "ws://" + location_object.host + "/" + encodeURIComponent(token) +
     "/channel/" + encodeURIComponent(window_name);

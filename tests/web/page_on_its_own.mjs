@@ -38,6 +38,22 @@ test("comes up on its own, as on Linux, without errors", async () => {
   await page.close();
 });
 
+test("the channel's address carries the page's token and window", async () => {
+  const { page } = await fresh_page();
+  const cases = [
+    ["/f00d/main_screen.html", "?window=main", "ws://127.0.0.1:12311/f00d/channel/main"],
+    ["/f00d/", "", "ws://127.0.0.1:12311/f00d/channel/main"],
+    ["/f00d/main_screen.html", "?window=rest", "ws://127.0.0.1:12311/f00d/channel/rest"],
+    ["/", "?token=beef", "ws://127.0.0.1:12311/beef/channel/main"]
+  ];
+  for (const [pathname, search, expected] of cases) {
+    const address = await page.evaluate(([p, s]) => web_channel_address(
+      { host: "127.0.0.1:12311", pathname: p, search: s }), [pathname, search]);
+    assert.equal(address, expected, pathname + search);
+  }
+  await page.close();
+});
+
 test("every menu entry opens its page, and its title bar leads back", async () => {
   const { page } = await fresh_page();
   assert.equal(await page.$$eval(".view-advanced .page", (pages) => pages.length), 36);
