@@ -101,6 +101,23 @@ test("the blue light is the temperature in steps of 65 K", async () => {
   await page.close();
 });
 
+test("times of day show as HH:MM and report hours and minutes", async () => {
+  const { page, reports } = await fresh_page();
+  await show_page(page, "Sleep");
+  await page.click("label:has(#use-sleep-light-checkbox)");
+  await page.evaluate(() => bedtime.set_bedtime_value(22, 5));
+  assert.equal(await page.inputValue("#bedtime"), "22:05");
+  assert.deepEqual(reports("bedtime_changed"), []);
+  await page.click("#bedtime");
+  await page.click(".ui-timepicker-list li:has-text('23:00')");
+  await page.fill("#wake-time", "6:30");
+  await page.press("#wake-time", "Tab");
+  assert.deepEqual(reports("bedtime_changed"), ["23, 0"]);
+  assert.deepEqual(reports("wake_time_changed"), ["6, 30"]);
+  assert.equal(await page.textContent("#sleep-light-slider-value"), "57%");
+  await page.close();
+});
+
 test("the brightness range starts at 5 when restored, at 10 when clicked", async () => {
   const { page } = await fresh_page();
   const minimum = () => page.evaluate(() => $("#day-brightness-slider").slider("option", "min"));
