@@ -43,7 +43,7 @@ test("the page shows what the program holds", async () => {
 });
 
 test("a change on the page reaches the display and, after a save, the file", async () => {
-  const config = { UseManualColorSettings: "true", UseManualBrightness: "true", AdvancedView: "true",
+  const config = { UseManualColorSettings: "true", UseManualBrightness: "true", UseSleepLight: "false",
     DayTemperature: 3640, NightTemperature: 3640, DayBrightness: 100, NightBrightness: 100 };
   await with_ovra(config, async ({ page }) => {
     const before = await wait_for(() => {
