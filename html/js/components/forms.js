@@ -14,182 +14,182 @@ function report(slot) {
 }
 exports.report = report;
 
-function after_change(spec, value, from_native) {
-  if (spec.follow) {
-    spec.follow(value, from_native);
+function after_change(options, value, from_native) {
+  if (options.follow) {
+    options.follow(value, from_native);
   }
   folds.refresh();
 }
 
-// A checkbox bound to a boolean setting. spec: name, element, slot, and
+// A checkbox bound to a boolean setting. options: name, element, slot, and
 // optionally setter (the signal's name), follow(value, from_native) and
 // extra() for further arguments of the report.
-exports.checkbox = function (module, spec) {
-  var name = spec.name;
+exports.checkbox = function (module, options) {
+  var name = options.name;
   module.kind = "checkbox";
   module[name] = false;
   module[name + "_changed"] = function (value) {
-    report.apply(null, [spec.slot, value].concat(spec.extra ? spec.extra() : []));
+    report.apply(null, [options.slot, value].concat(options.extra ? options.extra() : []));
   };
-  module[spec.setter || "set_" + name] = function (use) {
+  module[options.setter || "set_" + name] = function (use) {
     use = !!use;
     if (use === module[name]) {
       return;
     }
     module[name] = use;
-    $(spec.element).prop("checked", use);
-    after_change(spec, use, true);
+    $(options.element).prop("checked", use);
+    after_change(options, use, true);
   };
   module.setup = module["setup_" + name + "_checkbox"] = function () {
-    $(spec.element).on("change", function () {
+    $(options.element).on("change", function () {
       module[name] = this.checked;
-      after_change(spec, this.checked, false);
+      after_change(options, this.checked, false);
       module[name + "_changed"](this.checked);
     });
   };
 };
 
-// A slider. spec: name, element, slot, min, max, step, value, signals (the
+// A slider. options: name, element, slot, min, max, step, value, signals (the
 // names of the signals that move it), per_monitor, and optionally
 // to_native/from_native (a different scale than the setting's) and unit.
-exports.slider = function (module, spec) {
-  var to_native = spec.to_native || function (value) { return value; };
-  var from_native = spec.from_native || function (value) { return value; };
+exports.slider = function (module, options) {
+  var to_native = options.to_native || function (value) { return value; };
+  var from_native = options.from_native || function (value) { return value; };
   module.kind = "slider";
-  module.value = spec.value;
+  module.value = options.value;
 
   function show(value) {
     module.value = value;
-    $(spec.element).slider("value", value);
-    $(spec.element + "-value").text(value + (spec.unit || ""));
+    $(options.element).slider("value", value);
+    $(options.element + "-value").text(value + (options.unit || ""));
   }
   module.show = show;
 
-  (spec.signals || ["set_" + spec.name + "_slider_value"]).forEach(function (signal) {
+  (options.signals || ["set_" + options.name + "_slider_value"]).forEach(function (signal) {
     module[signal] = function (native_value) {
       show(from_native(native_value));
     };
   });
 
   module.set_range = function (min, max) {
-    $(spec.element).slider("option", { min: min, max: max });
+    $(options.element).slider("option", { min: min, max: max });
     show(Math.min(Math.max(module.value, min), max));
   };
 
-  module.setup = module["setup_" + spec.name + "_slider"] = function () {
-    $(spec.element).slider({
+  module.setup = module["setup_" + options.name + "_slider"] = function () {
+    $(options.element).slider({
       range: "min",
-      min: spec.min,
-      max: spec.max,
-      step: spec.step || 1,
-      value: spec.value,
+      min: options.min,
+      max: options.max,
+      step: options.step || 1,
+      value: options.value,
       slide: function (event, ui) {
-        if (spec.refuse && spec.refuse(ui.value)) {
+        if (options.refuse && options.refuse(ui.value)) {
           return false;
         }
         module.value = ui.value;
-        $(spec.element + "-value").text(ui.value + (spec.unit || ""));
-        var args = [spec.slot, to_native(ui.value)];
-        if (spec.per_monitor) {
+        $(options.element + "-value").text(ui.value + (options.unit || ""));
+        var args = [options.slot, to_native(ui.value)];
+        if (options.per_monitor) {
           args.push(monitors.get_current_active_monitor());
         }
         report.apply(null, args);
-        if (spec.follow) {
-          spec.follow(ui.value);
+        if (options.follow) {
+          options.follow(ui.value);
         }
       }
     });
-    $(spec.element + "-value").text(spec.value + (spec.unit || ""));
+    $(options.element + "-value").text(options.value + (options.unit || ""));
   };
 };
 
-// A dropdown. spec: name, element, slot, signal, and optionally signal_ui
+// A dropdown. options: name, element, slot, signal, and optionally signal_ui
 // (moves only), echo (the plain signal reports back with force), text
 // (values are strings) and follow(value).
-exports.dropdown = function (module, spec) {
-  var convert = spec.text ? String : function (value) { return parseInt(value, 10); };
+exports.dropdown = function (module, options) {
+  var convert = options.text ? String : function (value) { return parseInt(value, 10); };
   module.kind = "dropdown";
 
   function select(value) {
-    var $select = $(spec.element);
+    var $select = $(options.element);
     $select.val(String(value));
     if ($select.data("ui-selectmenu")) {
       $select.selectmenu("refresh");
     }
-    if (spec.follow) {
-      spec.follow(convert(value), true);
+    if (options.follow) {
+      options.follow(convert(value), true);
     }
   }
   module.select = select;
 
-  module[spec.signal] = function (value) {
+  module[options.signal] = function (value) {
     select(value);
-    if (spec.echo) {
-      report(spec.echo, convert(value), true);
+    if (options.echo) {
+      report(options.echo, convert(value), true);
     }
   };
-  if (spec.signal_ui) {
-    module[spec.signal_ui] = select;
+  if (options.signal_ui) {
+    module[options.signal_ui] = select;
   }
 
-  module.setup = module["setup_" + spec.name + "_dropdown"] = function () {
-    $(spec.element).selectmenu({
+  module.setup = module["setup_" + options.name + "_dropdown"] = function () {
+    $(options.element).selectmenu({
       width: null,
       change: function (event, data) {
         var value = convert(data.item.value);
-        if (spec.follow) {
-          spec.follow(value, false);
+        if (options.follow) {
+          options.follow(value, false);
         }
-        if (spec.echo) {
-          report(spec.echo, value, false);
+        if (options.echo) {
+          report(options.echo, value, false);
         } else {
-          report(spec.slot, value);
+          report(options.slot, value);
         }
       }
     });
   };
 };
 
-// A number box that shows its unit while it is not being edited. spec: name,
+// A number box that shows its unit while it is not being edited. options: name,
 // element, slot, signal, unit (a function, so that a translated word is read
 // when drawn), min, max, and float for decimal values.
-exports.number_box = function (module, spec) {
-  var parse = spec.float ? parseFloat : function (text) { return parseInt(text, 10); };
+exports.number_box = function (module, options) {
+  var parse = options.float ? parseFloat : function (text) { return parseInt(text, 10); };
   module.kind = "number_box";
   module.value = null;
 
   function unit_text() {
-    return spec.unit ? " " + spec.unit() : "";
+    return options.unit ? " " + options.unit() : "";
   }
 
   function draw(value) {
     module.value = value;
     var text = value === null || value === "" ? "" : value + unit_text();
-    $("*[id|=" + spec.element.slice(1) + "]").val(text);
+    $("*[id|=" + options.element.slice(1) + "]").val(text);
   }
   module.redraw = function () {
-    if (document.activeElement !== $(spec.element)[0]) {
+    if (document.activeElement !== $(options.element)[0]) {
       draw(module.value);
     }
   };
 
-  module[spec.signal] = function (value) {
-    draw(spec.float ? String(value) : parse(value));
+  module[options.signal] = function (value) {
+    draw(options.float ? String(value) : parse(value));
   };
 
   function clamp(value) {
-    if (spec.min !== undefined && value < spec.min) {
-      return spec.min;
+    if (options.min !== undefined && value < options.min) {
+      return options.min;
     }
-    if (spec.max !== undefined && value > spec.max) {
-      return spec.max;
+    if (options.max !== undefined && value > options.max) {
+      return options.max;
     }
     return value;
   }
   module.clamp = clamp;
 
   module.setup = function () {
-    var $box = $(spec.element);
+    var $box = $(options.element);
     $box.on("focusin", function () {
       $box.val("");
     });
@@ -208,55 +208,55 @@ exports.number_box = function (module, spec) {
       var changed = String(typed) !== String(module.value);
       draw(typed);
       if (changed) {
-        report(spec.slot, typed);
+        report(options.slot, typed);
       }
     });
-    draw(spec.value === undefined ? null : spec.value);
+    draw(options.value === undefined ? null : options.value);
   };
 };
 
-// A time of day. spec: name, element, slot, signal.
-exports.time_picker = function (module, spec) {
+// A time of day. options: name, element, slot, signal.
+exports.time_picker = function (module, options) {
   module.kind = "time_picker";
   function two_digits(number) {
     return ("0" + number).slice(-2);
   }
-  module[spec.signal] = function (hours, minutes) {
-    $(spec.element).timepicker("setTime", two_digits(hours) + ":" + two_digits(minutes));
+  module[options.signal] = function (hours, minutes) {
+    $(options.element).timepicker("setTime", two_digits(hours) + ":" + two_digits(minutes));
   };
   module.setup = function () {
-    $(spec.element).timepicker({ timeFormat: "H:i", step: 15, disableTextInput: false })
+    $(options.element).timepicker({ timeFormat: "H:i", step: 15, disableTextInput: false })
       .on("change", function () {
-        var time = $(spec.element).timepicker("getTime");
+        var time = $(options.element).timepicker("getTime");
         if (time) {
-          report(spec.slot, time.getHours(), time.getMinutes());
+          report(options.slot, time.getHours(), time.getMinutes());
         }
       });
   };
 };
 
 // Two buttons that switch a feature on and off and show which is in force.
-// spec: name, on, off (selectors), slot, setter.
-exports.switch_buttons = function (module, spec) {
-  var name = spec.name;
+// options: name, on, off (selectors), slot, setter.
+exports.switch_buttons = function (module, options) {
+  var name = options.name;
   module.kind = "buttons";
   module[name] = false;
   function show(use) {
     module[name] = use;
-    $(spec.on).toggleClass("active", use);
-    $(spec.off).toggleClass("active", !use);
+    $(options.on).toggleClass("active", use);
+    $(options.off).toggleClass("active", !use);
   }
-  module[spec.setter || "set_" + name] = function (use) {
+  module[options.setter || "set_" + name] = function (use) {
     show(!!use);
   };
   module.setup = function () {
-    $(spec.on).on("click", function () {
+    $(options.on).on("click", function () {
       show(true);
-      report(spec.slot, true);
+      report(options.slot, true);
     });
-    $(spec.off).on("click", function () {
+    $(options.off).on("click", function () {
       show(false);
-      report(spec.slot, false);
+      report(options.slot, false);
     });
     show(false);
   };
