@@ -1,0 +1,7 @@
+"use strict";
+
+forms.checkbox(exports, {
+  name: "optimize_ui_creation",
+  element: "#checkbox-optimize-ui-creation",
+  slot: "optimize_ui_creation_changed"
+});

@@ -1,0 +1,7 @@
+"use strict";
+
+forms.checkbox(exports, {
+  name: "use_sounds",
+  element: "#use-sounds-checkbox",
+  slot: "use_sounds_changed"
+});
