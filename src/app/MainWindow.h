@@ -105,6 +105,8 @@ public:
     void page_escape_pressed() override;
     void page_gone() override;
     void page_connected(bool in_host) override;
+    // The size the page last asked for; invalid before it asked.
+    QSize settings_window_size() const { return window_size; }
     // Also offers the settings page to any browser on this machine.
     bool offer_settings_to_browsers(quint16 port);
 

@@ -204,29 +204,6 @@ TEST_F(PauseFades, NoScreensInPerMonitorModeWritesNothing)
     EXPECT_TRUE(writes().empty());
 }
 
-TEST_F(PauseFades, WindowHidesAfterItsFadeAndAShowingFadeRestarts)
-{
-    start_settled();
-    window->show();
-    window->begin_hiding();
-    int ticks = 0;
-    while (window->isVisible() && ticks < 100) {
-        window->fade_window();
-        ++ticks;
-    }
-    // Twenty-five steps of 0.04 in float come to 1.0000001, past the end.
-    EXPECT_EQ(ticks, 25);
-
-    window->show();
-    window->begin_hiding();
-    for (int i = 0; i < 10; ++i)
-        window->fade_window();
-    window->begin_showing();
-    for (int i = 0; i < 40; ++i)
-        window->fade_window();
-    EXPECT_TRUE(window->isVisible());
-}
-
 TEST_F(PauseFades, DayIsSixToEighteenOnTheClock)
 {
     start_settled();

@@ -407,11 +407,11 @@ TEST_F(AdvancedView, LeavingReappliesTheTypeAndTheShadowsKeepTheUsersValues)
 TEST_F(AdvancedView, ASizeIsTakenOnlyWhenBothSidesArePositive)
 {
     start();
-    const QSize before = window->size();
+    const QSize before = window->settings_window_size();
     window->use_advanced_settings_changed(true, 700);
-    EXPECT_EQ(window->size(), before);
+    EXPECT_EQ(window->settings_window_size(), before);
     window->use_advanced_settings_changed(true, 700, 600);
-    EXPECT_EQ(window->size(), QSize(700, 600));
+    EXPECT_EQ(window->settings_window_size(), QSize(700, 600));
 }
 
 // ---------------------------------------------------------------- timer type
