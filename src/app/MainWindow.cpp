@@ -15,6 +15,7 @@
 #include "settings/SaveKeys.h"
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
+#include "services/Translator.h"
 #include "services/Updater.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
     if (!setting_true(settings, "OptimizeUiCreation"))
         create_ovra_ui();
 
+    translator = new Translator(this);
     hidden_features = new HiddenFeatures();
 
     setup_network_config_manager();
@@ -75,6 +77,7 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
 
     if (setting_true(settings, "OptimizeUiCreation"))
         restore_settings();
+    language_changed_force(settings[SaveKeys::LANGUAGE].toString(), true);
 }
 
 MainWindow::~MainWindow()
