@@ -1152,4 +1152,748 @@
         <translation>Make everything smaller</translation>
     </message>
 </context>
+<context>
+    <name>HiddenFeatures</name>
+    <message>
+        <source>Invalid spell:</source>
+        <translation>Invalid spell:</translation>
+    </message>
+    <message>
+        <source>Invalid spell</source>
+        <translation>Invalid spell</translation>
+    </message>
+    <message>
+        <source>The spell</source>
+        <translation>The spell</translation>
+    </message>
+    <message>
+        <source> seems wrong. Check the syntax or try with some other hidden feature.</source>
+        <translation> seems wrong. Check the syntax or try with some other hidden feature.</translation>
+    </message>
+    <message>
+        <source>Use &quot;help&quot; to see the list of all hidden features :)</source>
+        <translation>Use &quot;help&quot; to see the list of all hidden features :)</translation>
+    </message>
+    <message>
+        <source>Reset colors</source>
+        <translation>Reset colors</translation>
+    </message>
+    <message>
+        <source>Screen colors are reset to default values</source>
+        <translation>Screen colors are reset to default values</translation>
+    </message>
+    <message>
+        <source>Reset settings</source>
+        <translation>Reset settings</translation>
+    </message>
+    <message>
+        <source>Ovra settings are reset to default values</source>
+        <translation>Ovra settings are reset to default values</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Invert</translation>
+    </message>
+    <message>
+        <source>Colors are inverted</source>
+        <translation>Colors are inverted</translation>
+    </message>
+    <message>
+        <source>Zero blue light</source>
+        <translation>Zero blue light</translation>
+    </message>
+    <message>
+        <source>All blue light is removed from the screen</source>
+        <translation>All blue light is removed from the screen</translation>
+    </message>
+    <message>
+        <source>Gamma preservation enabled</source>
+        <translation>Gamma preservation enabled</translation>
+    </message>
+    <message>
+        <source>Ovra will respect your color calibration from now on. Close and start Ovra mini again and it will preserve your colors during the day</source>
+        <translation>Ovra will respect your color calibration from now on. Close and start Ovra mini again and it will preserve your colors during the day</translation>
+    </message>
+    <message>
+        <source>Gamma preservation disabled</source>
+        <translation>Gamma preservation disabled</translation>
+    </message>
+    <message>
+        <source>Ovra will not respect your color calibration from now on. It will use the default monitor settings instead</source>
+        <translation>Ovra will not respect your color calibration from now on. It will use the default monitor settings instead</translation>
+    </message>
+    <message>
+        <source>Software cursor enabled</source>
+        <translation>Software cursor enabled</translation>
+    </message>
+    <message>
+        <source>Color changes will apply also on the cursor. If it starts to dissappear use disable software cursor to make it bright again.</source>
+        <translation>Color changes will apply also on the cursor. If it starts to dissappear use disable software cursor to make it bright again.</translation>
+    </message>
+    <message>
+        <source>Hardware cursor enabled</source>
+        <translation>Hardware cursor enabled</translation>
+    </message>
+    <message>
+        <source>Color changes will not apply on the cursor. If you don&apos;t like the bright blue cursor at night use enable software cursor to make apply color changes on the cursor.</source>
+        <translation>Color changes will not apply on the cursor. If you don&apos;t like the bright blue cursor at night use enable software cursor to make apply color changes on the cursor.</translation>
+    </message>
+    <message>
+        <source>Manual night duration enabled</source>
+        <translation>Manual night duration enabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will use manual night duration. Set start and end time with the hidden features</source>
+        <translation>Ovra mini will use manual night duration. Set start and end time with the hidden features</translation>
+    </message>
+    <message>
+        <source>Manual night duration disabled</source>
+        <translation>Manual night duration disabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will use automatic night duration based on location. The location is used for calculating Sun position and day and night duration</source>
+        <translation>Ovra mini will use automatic night duration based on location. The location is used for calculating Sun position and day and night duration</translation>
+    </message>
+    <message>
+        <source>Manual location enabled</source>
+        <translation>Manual location enabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will use your manual location. Set latitude and longitude with the hidden features</source>
+        <translation>Ovra mini will use your manual location. Set latitude and longitude with the hidden features</translation>
+    </message>
+    <message>
+        <source>Manual location disabled</source>
+        <translation>Manual location disabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will use automatic location. The location is used for calculating Sun position and day and night duration</source>
+        <translation>Ovra mini will use automatic location. The location is used for calculating Sun position and day and night duration</translation>
+    </message>
+    <message>
+        <source>Manual brightness enabled</source>
+        <translation>Manual brightness enabled</translation>
+    </message>
+    <message>
+        <source>You are now using Ovra mini Mixed mode</source>
+        <translation>You are now using Ovra mini Mixed mode</translation>
+    </message>
+    <message>
+        <source>Manual brightness disabled</source>
+        <translation>Manual brightness disabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will use your selected mode for brightness again</source>
+        <translation>Ovra mini will use your selected mode for brightness again</translation>
+    </message>
+    <message>
+        <source>Manual temperature enabled</source>
+        <translation>Manual temperature enabled</translation>
+    </message>
+    <message>
+        <source>You are now using Ovra Mixed mode</source>
+        <translation>You are now using Ovra Mixed mode</translation>
+    </message>
+    <message>
+        <source>Manual temperature disabled</source>
+        <translation>Manual temperature disabled</translation>
+    </message>
+    <message>
+        <source>Ovra will use your selected mode for temperature again</source>
+        <translation>Ovra will use your selected mode for temperature again</translation>
+    </message>
+    <message>
+        <source>Start at startup enabled</source>
+        <translation>Start at startup enabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will start when you turn ON your computer</source>
+        <translation>Ovra mini will start when you turn ON your computer</translation>
+    </message>
+    <message>
+        <source>Start at startup disabled</source>
+        <translation>Start at startup disabled</translation>
+    </message>
+    <message>
+        <source>Ovra mini will not start when you turn ON your computer</source>
+        <translation>Ovra mini will not start when you turn ON your computer</translation>
+    </message>
+    <message>
+        <source>Notifications enabled</source>
+        <translation>Notifications enabled</translation>
+    </message>
+    <message>
+        <source>Hidden features notifications are enabled. They are show so you will know when your spell is successful</source>
+        <translation>Hidden features notifications are enabled. They are show so you will know when your spell is successful</translation>
+    </message>
+    <message>
+        <source>Notifications disabled</source>
+        <translation>Notifications disabled</translation>
+    </message>
+    <message>
+        <source>Hidden features notifications are disabled. This is the last notification that you will see</source>
+        <translation>Hidden features notifications are disabled. This is the last notification that you will see</translation>
+    </message>
+    <message>
+        <source>Tray icon rotation is enabled</source>
+        <translation>Tray icon rotation is enabled</translation>
+    </message>
+    <message>
+        <source>The tray icon will rotate when Ovra is changing screen colors. This is used to show when Ovra mini is changing colors and your screen is not calibrated</source>
+        <translation>The tray icon will rotate when Ovra is changing screen colors. This is used to show when Ovra mini is changing colors and your screen is not calibrated</translation>
+    </message>
+    <message>
+        <source>Tray icon rotation is disabled</source>
+        <translation>Tray icon rotation is disabled</translation>
+    </message>
+    <message>
+        <source>The tray icon will not rotate when Ovra is changing screen colors. This feature is used to show when Ovra mini is changing colors and your screen is not calibrated</source>
+        <translation>The tray icon will not rotate when Ovra is changing screen colors. This feature is used to show when Ovra mini is changing colors and your screen is not calibrated</translation>
+    </message>
+    <message>
+        <source>Keyboard Hook enabled</source>
+        <translation>Keyboard Hook enabled</translation>
+    </message>
+    <message>
+        <source>Keyboard Hook enabled. You can now use system-wide shortcuts.</source>
+        <translation>Keyboard Hook enabled. You can now use system-wide shortcuts.</translation>
+    </message>
+    <message>
+        <source>Keyboard Hook disabled</source>
+        <translation>Keyboard Hook disabled</translation>
+    </message>
+    <message>
+        <source>Keyboard Hook disabled. Some shortcuts and features may not work as intended</source>
+        <translation>Keyboard Hook disabled. Some shortcuts and features may not work as intended</translation>
+    </message>
+    <message>
+        <source>Conflicting applications enabled</source>
+        <translation>Conflicting applications enabled</translation>
+    </message>
+    <message>
+        <source>Conflicting applications are enabled. You can now use other softwares which change the screen colors.</source>
+        <translation>Conflicting applications are enabled. You can now use other softwares which change the screen colors.</translation>
+    </message>
+    <message>
+        <source>Conflicting applications disabled</source>
+        <translation>Conflicting applications disabled</translation>
+    </message>
+    <message>
+        <source>Conflicting applications are disabled. In order to not cause flicker conflicting applications are disabled.</source>
+        <translation>Conflicting applications are disabled. In order to not cause flicker conflicting applications are disabled.</translation>
+    </message>
+    <message>
+        <source>Gamma fixer enabled</source>
+        <translation>Gamma fixer enabled</translation>
+    </message>
+    <message>
+        <source>Gamma fixer is enabled. If notice slight color changing every second disable the Gamma fixer again. Gamma fixer is used, because Windows decides to ignore Ovra mini changes from time to time.</source>
+        <translation>Gamma fixer is enabled. If notice slight color changing every second disable the Gamma fixer again. Gamma fixer is used, because Windows decides to ignore Ovra mini changes from time to time.</translation>
+    </message>
+    <message>
+        <source>Gamma fixer disabled</source>
+        <translation>Gamma fixer disabled</translation>
+    </message>
+    <message>
+        <source>Gamma fixer is disabled. If your screen suddenly becomes bright enable it again or click the Ovra mini icon several times. Both should force Ovra to change the screen colors.</source>
+        <translation>Gamma fixer is disabled. If your screen suddenly becomes bright enable it again or click the Ovra mini icon several times. Both should force Ovra to change the screen colors.</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source> disabled</source>
+        <translation> disabled</translation>
+    </message>
+    <message>
+        <source> enabled</source>
+        <translation> enabled</translation>
+    </message>
+    <message>
+        <source>Ovra will not apply color changes to Monitor</source>
+        <translation>Ovra will not apply color changes to Monitor</translation>
+    </message>
+    <message>
+        <source>Ovra will apply color changes to Monitor</source>
+        <translation>Ovra will apply color changes to Monitor</translation>
+    </message>
+    <message>
+        <source>Latitude changed</source>
+        <translation>Latitude changed</translation>
+    </message>
+    <message>
+        <source>Latitude changed to</source>
+        <translation>Latitude changed to</translation>
+    </message>
+    <message>
+        <source>Longitude changed</source>
+        <translation>Longitude changed</translation>
+    </message>
+    <message>
+        <source>Longitude changed to</source>
+        <translation>Longitude changed to</translation>
+    </message>
+    <message>
+        <source>Invalid value for temperature:</source>
+        <translation>Invalid value for temperature:</translation>
+    </message>
+    <message>
+        <source>Invalid temperature</source>
+        <translation>Invalid temperature</translation>
+    </message>
+    <message>
+        <source>is invalid value for Color temperature. Use number between 0 and 10000.</source>
+        <translation>is invalid value for Color temperature. Use number between 0 and 10000.</translation>
+    </message>
+    <message>
+        <source>Temperature changed</source>
+        <translation>Temperature changed</translation>
+    </message>
+    <message>
+        <source>Color temperature changed to</source>
+        <translation>Color temperature changed to</translation>
+    </message>
+    <message>
+        <source>Invalid value for brightness:</source>
+        <translation>Invalid value for brightness:</translation>
+    </message>
+    <message>
+        <source>Invalid brightness</source>
+        <translation>Invalid brightness</translation>
+    </message>
+    <message>
+        <source>is invalid value for Brightness. Use number between 10 and 100.</source>
+        <translation>is invalid value for Brightness. Use number between 10 and 100.</translation>
+    </message>
+    <message>
+        <source>Brightness changed</source>
+        <translation>Brightness changed</translation>
+    </message>
+    <message>
+        <source>Brightness changed to</source>
+        <translation>Brightness changed to</translation>
+    </message>
+    <message>
+        <source>Invalid value for night start time:</source>
+        <translation>Invalid value for night start time:</translation>
+    </message>
+    <message>
+        <source>Invalid Night start time</source>
+        <translation>Invalid Night start time</translation>
+    </message>
+    <message>
+        <source>is invalid value for Night start time. Use number between 0 and 24.</source>
+        <translation>is invalid value for Night start time. Use number between 0 and 24.</translation>
+    </message>
+    <message>
+        <source>Night start time changed</source>
+        <translation>Night start time changed</translation>
+    </message>
+    <message>
+        <source>Manual night start time changed to</source>
+        <translation>Manual night start time changed to</translation>
+    </message>
+    <message>
+        <source>Invalid value for night end time:</source>
+        <translation>Invalid value for night end time:</translation>
+    </message>
+    <message>
+        <source>Invalid Night end time</source>
+        <translation>Invalid Night end time</translation>
+    </message>
+    <message>
+        <source>is invalid value for Night end time. Use number between 0 and 24.</source>
+        <translation>is invalid value for Night end time. Use number between 0 and 24.</translation>
+    </message>
+    <message>
+        <source>Night end time changed</source>
+        <translation>Night end time changed</translation>
+    </message>
+    <message>
+        <source>Manual night end time changed to</source>
+        <translation>Manual night end time changed to</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Day start time</source>
+        <translation>Day start time</translation>
+    </message>
+    <message>
+        <source>Day transition start time</source>
+        <translation>Day transition start time</translation>
+    </message>
+    <message>
+        <source>Day transition end time</source>
+        <translation>Day transition end time</translation>
+    </message>
+    <message>
+        <source>Day end time</source>
+        <translation>Day end time</translation>
+    </message>
+    <message>
+        <source>Night start time</source>
+        <translation>Night start time</translation>
+    </message>
+    <message>
+        <source>Night transition start time</source>
+        <translation>Night transition start time</translation>
+    </message>
+    <message>
+        <source>Night transition end time</source>
+        <translation>Night transition end time</translation>
+    </message>
+    <message>
+        <source>Night end time</source>
+        <translation>Night end time</translation>
+    </message>
+    <message>
+        <source>Bedtime</source>
+        <translation>Bedtime</translation>
+    </message>
+    <message>
+        <source>Bedtime transition start time</source>
+        <translation>Bedtime transition start time</translation>
+    </message>
+    <message>
+        <source>Bedtime transition end time</source>
+        <translation>Bedtime transition end time</translation>
+    </message>
+    <message>
+        <source>Bedtime end time</source>
+        <translation>Bedtime end time</translation>
+    </message>
+    <message>
+        <source>Wake time</source>
+        <translation>Wake time</translation>
+    </message>
+    <message>
+        <source>Wake time transition start time</source>
+        <translation>Wake time transition start time</translation>
+    </message>
+    <message>
+        <source>Wake time transition end time</source>
+        <translation>Wake time transition end time</translation>
+    </message>
+    <message>
+        <source>Wake time end time</source>
+        <translation>Wake time end time</translation>
+    </message>
+    <message>
+        <source>Day duration</source>
+        <translation>Day duration</translation>
+    </message>
+    <message>
+        <source>Day transition duration</source>
+        <translation>Day transition duration</translation>
+    </message>
+    <message>
+        <source>Night duration</source>
+        <translation>Night duration</translation>
+    </message>
+    <message>
+        <source>Night transition duration</source>
+        <translation>Night transition duration</translation>
+    </message>
+    <message>
+        <source>Sleep duration</source>
+        <translation>Sleep duration</translation>
+    </message>
+    <message>
+        <source>Sleep transition duration</source>
+        <translation>Sleep transition duration</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Time zone</translation>
+    </message>
+    <message>
+        <source>Custom Time zone offset</source>
+        <translation>Custom Time zone offset</translation>
+    </message>
+    <message>
+        <source>Sunrise time</source>
+        <translation>Sunrise time</translation>
+    </message>
+    <message>
+        <source>Sunset time</source>
+        <translation>Sunset time</translation>
+    </message>
+    <message>
+        <source>New moon offset</source>
+        <translation>New moon offset</translation>
+    </message>
+    <message>
+        <source>Full moon offset</source>
+        <translation>Full moon offset</translation>
+    </message>
+    <message>
+        <source>Current moon offset</source>
+        <translation>Current moon offset</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>rest</translation>
+    </message>
+    <message>
+        <source>until</source>
+        <translation>until</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <translation>work</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Paused</translation>
+    </message>
+    <message>
+        <source>Big rest incoming</source>
+        <translation>Big rest incoming</translation>
+    </message>
+    <message>
+        <source>Relaunch Ovra</source>
+        <translation>Relaunch Ovra</translation>
+    </message>
+    <message>
+        <source>You need to relaunch Ovra for changes to take effect.</source>
+        <translation>You need to relaunch Ovra for changes to take effect.</translation>
+    </message>
+    <message>
+        <source>Relaunch now</source>
+        <translation>Relaunch now</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic</source>
+        <translation>&amp;Automatic</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>&amp;Paused</source>
+        <translation>&amp;Paused</translation>
+    </message>
+    <message>
+        <source>&amp;Change mode</source>
+        <translation>&amp;Change mode</translation>
+    </message>
+    <message>
+        <source>&amp;Health</source>
+        <translation>&amp;Health</translation>
+    </message>
+    <message>
+        <source>&amp;Sleep</source>
+        <translation>&amp;Sleep</translation>
+    </message>
+    <message>
+        <source>&amp;Reading</source>
+        <translation>&amp;Reading</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programming</translation>
+    </message>
+    <message>
+        <source>&amp;Biohacker</source>
+        <translation>&amp;Biohacker</translation>
+    </message>
+    <message>
+        <source>&amp;Sunglasses</source>
+        <translation>&amp;Sunglasses</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dark</translation>
+    </message>
+    <message>
+        <source>&amp;Movie</source>
+        <translation>&amp;Movie</translation>
+    </message>
+    <message>
+        <source>&amp;Overlay</source>
+        <translation>&amp;Overlay</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Color pausers</source>
+        <translation>Color pausers</translation>
+    </message>
+    <message>
+        <source>Timer pausers</source>
+        <translation>Timer pausers</translation>
+    </message>
+    <message>
+        <source>Mouse pausers</source>
+        <translation>Mouse pausers</translation>
+    </message>
+</context>
+<context>
+    <name>RestTimer</name>
+    <message>
+        <source>hour</source>
+        <translation>hour</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>sec</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>minutes</translation>
+    </message>
+    <message>
+        <source>reminds you that a big rest will occur in</source>
+        <translation>reminds you that a big rest will occur in</translation>
+    </message>
+    <message>
+        <source>reminds you that a big rest will occur in 30 seconds</source>
+        <translation>reminds you that a big rest will occur in 30 seconds</translation>
+    </message>
+</context>
+<context>
+    <name>SolarPosition</name>
+    <message>
+        <source>hour</source>
+        <translation>hour</translation>
+    </message>
+    <message>
+        <source>hours</source>
+        <translation>hours</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>sec</translation>
+    </message>
+</context>
+<context>
+    <name>ClockPosition</name>
+    <message>
+        <source>hour</source>
+        <translation>hour</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>sec</translation>
+    </message>
+</context>
+<context>
+    <name>RestScreenLite</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Ovra</source>
+        <translation>Ovra</translation>
+    </message>
+    <message>
+        <source>Rest screen</source>
+        <translation>Rest screen</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Remaining</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+</context>
+<context>
+    <name>TaskbarButton</name>
+    <message>
+        <source> until rest</source>
+        <translation> until rest</translation>
+    </message>
+    <message>
+        <source> until work</source>
+        <translation> until work</translation>
+    </message>
+</context>
+<context>
+    <name>ExportSettings</name>
+    <message>
+        <source>Save File...</source>
+        <translation>Save File...</translation>
+    </message>
+    <message>
+        <source>Ovra Settings File (*.ovra_settings *.ovra)</source>
+        <translation>Ovra Settings File (*.ovra_settings *.ovra)</translation>
+    </message>
+</context>
+<context>
+    <name>ImportSettings</name>
+    <message>
+        <source>Open File...</source>
+        <translation>Open File...</translation>
+    </message>
+    <message>
+        <source>Ovra Settings File (*.ovra_settings *.ovra)</source>
+        <translation>Ovra Settings File (*.ovra_settings *.ovra)</translation>
+    </message>
+</context>
+<context>
+    <name>input_dialog</name>
+    <message>
+        <source>Enter your spell:</source>
+        <translation>Enter your spell:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>message_box</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -15,6 +15,7 @@
 #include "settings/SaveKeys.h"
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
+#include "services/Translator.h"
 #include "services/Updater.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(QObject* parent)
     if (!setting_true(settings, "OptimizeUiCreation"))
         create_ovra_ui();
 
+    translator = new Translator(this);
     hidden_features = new HiddenFeatures();
 
     setup_network_config_manager();
@@ -76,6 +78,7 @@ MainWindow::MainWindow(QObject* parent)
 
     if (setting_true(settings, "OptimizeUiCreation"))
         restore_settings();
+    language_changed_force(settings[SaveKeys::LANGUAGE].toString(), true);
 }
 
 MainWindow::~MainWindow()

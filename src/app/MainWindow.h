@@ -29,6 +29,7 @@ class OnlineState;
 struct SolarInterpolationValues;
 struct ClockInterpolationValues;
 class Settings;
+class Translator;
 class UnixSignals;
 struct ColorSettings;
 
@@ -415,4 +416,28 @@ private:
                           int minutes, PairSignal signal);
 
     // End of Types, modes and colour values ----------------------------------
+
+    // Language ------------------------------------------------------------------
+    // The translator, the language setting and the page's strings. Bodies in
+    // MainWindowLanguage.cpp; the tables are translations/ovra_<code>.ts.
+public slots:
+    QString GET_STRING(QString translation_string);
+    QString get_language_code();
+    void language_changed(QString country_code);
+    void language_changed_force(QString country_code, bool force);
+    // The page's answer to a location lookup; the place picks the language
+    // once, at first start.
+    void localize_ovra(QString country_name, QString country_code);
+
+public:
+    Translator* get_translator();
+
+signals:
+    // The page translates its texts again.
+    void translate();
+    void set_language_dropdown_value(QString value);
+
+private:
+    Translator* translator = nullptr;
+    // End of Language -----------------------------------------------------------
 };
