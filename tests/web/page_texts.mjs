@@ -11,9 +11,12 @@ function unescape_xml(text) {
     .replace(/&apos;/g, "'").replace(/&amp;/g, "&");
 }
 
+// The page's keys: the Translator context of the table. The native contexts
+// beside it belong to the program's own texts.
 function read_table() {
-  const text = fs.readFileSync(path.join(SOURCE_DIR, "translations/ovra_en.ts"), "utf8");
-  const contexts = [...text.matchAll(/<name>([^<]*)<\/name>/g)].map((match) => match[1]);
+  const file = fs.readFileSync(path.join(SOURCE_DIR, "translations/ovra_en.ts"), "utf8");
+  const contexts = [...file.matchAll(/<name>([^<]*)<\/name>/g)].map((match) => match[1]);
+  const text = file.match(/<context>\s*<name>Translator<\/name>([\s\S]*?)<\/context>/)[1];
   const table = new Map();
   for (const match of text.matchAll(/<source>([^<]*)<\/source>\s*<translation>([^<]*)<\/translation>/g)) {
     assert.ok(!table.has(match[1]), "key twice in the table: " + match[1]);
@@ -38,9 +41,9 @@ function markup_texts() {
   return texts;
 }
 
-test("the English table holds the Translator context alone", () => {
+test("the English table holds the page's keys in the Translator context", () => {
   const { contexts, table } = read_table();
-  assert.deepEqual(contexts, ["Translator"]);
+  assert.ok(contexts.includes("Translator"));
   for (const [key, english] of [["OVRA_MODE", "Mode"], ["DAY_BLUE_LIGHT", "Day Light"],
     ["MANUAL_AUTOMATIC_TOOGLE", "Manual/Automatic Toggle"], ["min", "min"],
     ["REST_MODE_MESSAGE", "You are in rest mode now. Edit the timer in the settings panel."]]) {
