@@ -16,6 +16,7 @@
 #include "color/IGamma.h"
 #include "services/OnlineState.h"
 #include "services/Updater.h"
+#include "settings/FeaturesSettings.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
 #include "settings/SettingsHost.h"
@@ -45,6 +46,7 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
     longitude = -1.0;
     screen_count = 1;
     app_settings = new Settings(this);
+    relay_settings_signals();
 
     setup_window_properties();
     restore_saved_settings();
@@ -52,6 +54,8 @@ MainWindow::MainWindow(QWidget* parent) : OvraWindow(12311, parent, 0)
         create_ovra_ui();
 
     hidden_features = new HiddenFeatures();
+    features_settings =
+        new FeaturesSettings(settings[QString::fromLatin1(SaveKeys::UNUSED_PAGES)].toList());
 
     setup_network_config_manager();
     setup_color_engine();
@@ -88,6 +92,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    delete features_settings;
     delete tick;
     delete curve;
     set_settings_host_source({});

@@ -85,7 +85,10 @@ void MainWindow::load_finished_linux()
     showMinimized();
 }
 
-void MainWindow::set_gamma_ui() {}
+void MainWindow::set_gamma_ui()
+{
+    emit enable_all_gamma_options();
+}
 
 void MainWindow::set_open_ovra_after_load_finished(bool value)
 {
