@@ -7,8 +7,10 @@
 #include "settings/ChangeRule.h"
 #include "settings/SettingsTable.h"
 
-// The list is saved with the other settings. The next write gives an
-// ignored monitor its original ramps back and tints one taken back in.
+// The list lives beside the map, not in it, so the list edit makes the
+// rule's comparison: an unchanged list stops here. It is saved with the
+// other settings. The write at once gives an ignored monitor its original
+// ramps back and tints one taken back in.
 void MainWindow::ignore_monitor_changed(int monitor, bool ignore)
 {
     if (!IgnoredMonitors::set_ignored(ignored_monitors, monitor, ignore))

@@ -48,7 +48,9 @@ void MainWindow::mouse_click_interval_changed(int value)
 void MainWindow::updates_interval_changed(int value)
 {
     change_setting(settings, QString::fromLatin1(UPDATES_INTERVAL), value, nullptr,
-                   [this](const QVariant& stored) { emit set_updates_interval_value(stored.toInt() != 0); });
+                   [this](const QVariant& stored) {
+                       emit set_updates_interval_value(stored.toInt() != 0);
+                   });
 }
 
 // Font rendering is the desktop's business here: stored and shown only.
