@@ -17,6 +17,7 @@
 #include "services/OnlineState.h"
 #include "services/Translator.h"
 #include "services/Updater.h"
+#include "settings/FeaturesSettings.h"
 #include "settings/SaveManager.h"
 #include "settings/Settings.h"
 #include "settings/SettingsHost.h"
@@ -48,6 +49,7 @@ MainWindow::MainWindow(QObject* parent)
     longitude = -1.0;
     screen_count = 1;
     app_settings = new Settings(this);
+    relay_settings_signals();
 
     restore_saved_settings();
     if (!setting_true(settings, "OptimizeUiCreation"))
@@ -55,6 +57,8 @@ MainWindow::MainWindow(QObject* parent)
 
     translator = new Translator(this);
     hidden_features = new HiddenFeatures();
+    features_settings =
+        new FeaturesSettings(settings[QString::fromLatin1(SaveKeys::UNUSED_PAGES)].toList());
 
     setup_network_config_manager();
     setup_color_engine();
@@ -92,6 +96,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    delete features_settings;
     delete tick;
     delete curve;
     set_settings_host_source({});

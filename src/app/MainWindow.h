@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTimer>
 #include <QVariant>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include "web/OvraWindow.h"
 
 class ColorCurve;
+class FeaturesSettings;
 class ColorTick;
 class IGamma;
 class GammaFactory;
@@ -440,4 +442,252 @@ signals:
 private:
     Translator* translator = nullptr;
     // End of Language -----------------------------------------------------------
+
+    // The restore push ----------------------------------------------------------
+    // Settings pushes every stored value through signals of its own; the page
+    // sees only this object, so the constructor relays each of them to its
+    // namesake here, once (MainWindowRelay.cpp). The push's signals that
+    // the change handlers above also send are declared with them.
+signals:
+    void set_automatically_close_rest_screen_value(bool value);
+    void set_use_sounds(bool value);
+    void set_use_manual_night_duration(bool value);
+    void set_use_automatic_brightness(bool value);
+    void set_match_brightness_to_lighting(bool value);
+    void set_use_smart_brightness(bool value);
+    void set_use_smart_inversion(bool value);
+    void set_use_blink_detection(bool value);
+    void set_check_for_updates(bool value);
+    void set_hide_taskbar_icon(bool value);
+    void set_use_mouse_inactivity(bool value);
+    void set_use_keyboard_inactivity(bool value);
+    void set_use_keyboard_blocking(bool value);
+    void set_use_software_cursor(bool value);
+    void set_auto_save_settings(bool value);
+    void set_use_gamma_fixer(bool value);
+    void set_optimize_ui_creation(bool value);
+    void set_use_keyboard_shortcuts(bool value);
+    void set_destroy_ui_on_close(bool value);
+    void set_use_low_level_color_api(bool value);
+    void set_start_on_startup(bool value);
+    void set_use_inverted_colors(bool value);
+    void set_use_camera(bool value);
+    void set_use_blink_screen(bool value);
+    void set_postpone_time_value(int value);
+    void set_work_time_value(int value);
+    void set_rest_time_value(int value);
+    // Sent "interval != 0": the page's box for it is never loaded.
+    void set_updates_interval_value(bool value);
+    void set_use_color_pausers(bool value);
+    void set_use_timer_pausers(bool value);
+    void set_use_mouse_pausers(bool value);
+    void set_use_color_triggers(bool value);
+    void set_color_pausers_pause_on_fullscreen_apps(bool value);
+    void set_timer_pausers_pause_on_fullscreen_apps(bool value);
+    void set_mouse_pausers_pause_on_fullscreen_apps(bool value);
+    void set_shortcuts_values(QVariantList value);
+    void set_current_application_name(QString value);
+    void set_current_version(QString value);
+    void set_current_publisher_name(QString value);
+    void set_current_website(QString value);
+    void set_overlay_color_dropdown_value(int value);
+    void set_mouse_click_interval(int value);
+    void set_font_type_value(int value);
+    void set_rest_screen_type_dropdown_value(int value);
+    void set_active_features(QVariantList value);
+    void set_pwm_frequency_slider_value_ui(int value);
+    void set_pwm_max_frequency_value(int value);
+    void set_pwm_control_update_continuously(bool value);
+    void set_use_pwm_control(bool value);
+    // The page has no handler for it; kept for the order of the push.
+    void set_view(bool value);
+    void set_color_pausers_list(QString value);
+    void set_timer_pausers_list(QString value);
+    void set_mouse_pausers_list(QString value);
+    void set_color_triggers_list(QString value);
+    void set_websites_for_blocking(QString value);
+    void set_applications_for_blocking(QString value);
+
+private:
+    void relay_settings_signals();
+    // End of The restore push -------------------------------------------------
+
+    // On and off, and plain numbers -----------------------------------------------
+    // One change-rule call each, with what the change sets off
+    // (MainWindowSwitches.cpp, MainWindowNumbers.cpp; the two helpers in
+    // MainWindowChangeRule.cpp).
+public slots:
+    void pwm_control_update_continuously_changed(bool value);
+    void use_pwm_control_changed(bool value);
+    void automatically_close_rest_screen_changed(bool value);
+    void use_camera_changed(bool value);
+    void use_color_pausers_changed(bool checked);
+    void color_pausers_pause_on_fullscreen_apps_changed(bool value);
+    void use_timer_pausers_changed(bool checked);
+    void timer_pausers_pause_on_fullscreen_apps_changed(bool value);
+    void use_mouse_pausers_changed(bool checked);
+    void mouse_pausers_pause_on_fullscreen_apps_changed(bool value);
+    void use_color_triggers_changed(bool checked);
+    void use_sounds_changed(bool value);
+    void use_color_effects_changed(bool value);
+    void use_manual_night_duration_changed(bool value);
+    void use_automatic_brightness_changed(bool value);
+    void match_brightness_to_lighting_changed(bool value);
+    void use_smart_brightness_changed(bool value);
+    void use_smart_inversion_changed(bool value);
+    void use_blink_detection_changed(bool value);
+    void check_for_updates_changed(bool value);
+    void hide_taskbar_icon_changed(bool value);
+    void use_mouse_inactivity_changed(bool value);
+    void use_keyboard_inactivity_changed(bool value);
+    void use_keyboard_blocking_changed(bool value);
+    void use_software_cursor_changed(bool value);
+    void auto_save_settings_changed(bool value);
+    void use_gamma_fixer_changed(bool value);
+    void optimize_ui_creation_changed(bool value);
+    void use_keyboard_shortcuts_changed(bool value);
+    void destroy_ui_on_close_changed(bool value);
+    void use_low_level_color_api_changed(bool value);
+    void start_on_startup_changed(bool value);
+
+    void pwm_frequency_changed(int value);
+    void pwm_max_frequency_changed(int value);
+    void work_time_changed(int value);
+    void rest_time_changed(int value);
+    void postpone_time_changed(int value);
+    void updates_interval_changed(int value);
+    void mouse_click_interval_changed(int value);
+    void color_effect_changed(int value);
+    void rest_screen_type_changed(int value);
+    void overlay_color_changed(int value);
+    void font_type_changed(int value);
+    void day_opacity_changed(int value);
+    void night_opacity_changed(int value);
+    void day_dim_changed(int value);
+    void night_dim_changed(int value);
+    void lightness_screen_opacity_changed(int value);
+    void lightness_screen_radius_changed(int value);
+    void lightness_screen_x_position_changed(int value);
+    void lightness_screen_y_position_changed(int value);
+
+signals:
+    // The slider's own form; the push and the change send the _ui form.
+    void set_pwm_frequency_slider_value(int value);
+
+private:
+    using Apply = std::function<void()>;
+    void store_setting(const char* key, bool value, SwitchSignal signal, const Apply& apply = {});
+    void store_setting(const char* key, int value, ValueSignal signal, const Apply& apply = {});
+    // Keeps the value in force also as what the advanced view set.
+    void keep_in_shadow(const char* key, const char* shadow);
+    void store_overlay_value(const char* key, const char* shadow, int value, ValueSignal signal);
+    void store_lightness_value(const char* key, const char* shadow, int value, ValueSignal signal);
+    // End of On and off, and plain numbers -----------------------------------
+
+    // Lists and the application in front ------------------------------------------
+    // The page sends a whole list whenever the user edits it; it is kept in
+    // the map and written with the next save. Bodies in MainWindowLists.cpp.
+public slots:
+    void save_color_pausers(QString color_pausers);
+    void save_timer_pausers(QString timer_pausers);
+    void save_mouse_pausers(QString mouse_pausers);
+    void save_color_triggers(QString color_triggers);
+    void save_websites_for_blocking(QString websites);
+    void save_applications_for_blocking(QString applications);
+    void set_current_active_process(QString process_name);
+    void set_current_color_trigger(QString process_name);
+    void refresh_color_triggers();
+
+signals:
+    // Ask the page for the text of a list. The lists now reach the native
+    // side on every edit, so nothing needs to send these before a save.
+    void save_color_pausers_signal();
+    void save_timer_pausers_signal();
+    void save_mouse_pausers_signal();
+    void save_color_triggers_signal();
+    void save_websites_for_blocking_signal();
+    void save_applications_for_blocking_signal();
+    void set_current_active_process_signal(QString process_name);
+
+private:
+    void store_list(const char* key, const QString& text);
+    void refresh_pausers();
+
+    QString current_active_process;
+    QString current_color_trigger;
+    // End of Lists and the application in front ------------------------------
+
+    // What the page asks ------------------------------------------------------
+    // Values the page pulls, and the list of hidden pages. Bodies in
+    // MainWindowPageQueries.cpp.
+public slots:
+    QVariantList get_unused_pages();
+    void clean_unused_pages();
+    void add_unused_page(QString page);
+    void remove_unused_page(QString page);
+    void refresh_unused_pages();
+    QString get_os_name();
+    QString get_application_name();
+    bool is_retina_display();
+    void refresh_scale();
+
+signals:
+    void refresh_unused_pages_signal();
+    void refresh_ui_scale();
+
+private:
+    FeaturesSettings* features_settings = nullptr;
+    // End of What the page asks -----------------------------------------------
+
+    // The page's actions -----------------------------------------------------------
+    // Buttons and commands of the page, the monitors left untinted and the
+    // shortcut recorder. Bodies in MainWindowPageActions.cpp and
+    // MainWindowMonitors.cpp.
+public slots:
+    void start_rest();
+    void start_eye_exercises();
+    void start_neck_exercises();
+    void start_back_exercises();
+    void show_blink_screen();
+    void hide_blink_screen();
+    void start_mouse_clicking();
+    void stop_mouse_clicking();
+    void select_overlay_screen_area();
+    void reset_selected_overlay_screen_area();
+    void open_url(QString url);
+    void open_version_link();
+    void open_website_link();
+    void open_welcome_link();
+    void activate_hidden_feature(QString hidden_feature);
+    void reset_settings_to_default();
+    void import_settings();
+    void export_settings();
+    void zoom_in();
+    void zoom_out();
+    void start_web_view_debugger();
+    void start_debug_console();
+
+    void ignore_monitor_changed(int monitor, bool ignore);
+    void restore_manage_monitors();
+    void shortcut_changed(int feature_index, QString new_shortcut);
+
+signals:
+    void set_screen_count(int value);
+    void ignore_monitor(int value);
+    // End of The page's actions -----------------------------------------------
+
+    // Signals sent by subsystems still to come ------------------------------------
+    // Declared now so that the page's subscriptions find them: the status
+    // line and the break countdown (the tick with the rest timer), the blink
+    // counter (camera), hardware dimming, translation and spells.
+signals:
+    void open_advanced_view();
+    void set_timer_message(QString value);
+    void set_remaining_time(QString value, QString value2, QString value3);
+    void set_blink_count(int value);
+    void set_ovra_status(QString value);
+    void set_pwm_control_status(bool status, int value);
+    // No page listens to these two.
+    void brightness_change(int value);
+    void screen_image(QString img);
 };

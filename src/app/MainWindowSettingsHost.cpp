@@ -1,11 +1,12 @@
 // Where the store and the restore push meet the controller. Each hook is a
 // call into MainWindow; a hook left empty is a step whose owner is not built
-// yet (tray, hotkeys, unused pages, colour triggers, the page's list texts).
+// yet (the hotkeys' list of shortcuts, the updater's about texts).
 // reset_timer is wired although its body waits for the break timer, so that
 // every restore pass hands the break lengths over once that timer exists.
 #include "app/MainWindow.h"
 #include "settings/SaveKeys.h"
 #include "settings/SettingsHost.h"
+#include "tray/ITrayIcon.h"
 
 SettingsHost main_window_settings_host()
 {
@@ -31,14 +32,22 @@ SettingsHost main_window_settings_host()
     };
 
     host.restore_saved_settings = [main_window] { main_window->restore_saved_settings(); };
+    host.unused_pages = [main_window] { return main_window->get_unused_pages(); };
+    host.restore_manage_monitors = [main_window] { main_window->restore_manage_monitors(); };
     host.refresh_after_restore = [main_window] {
         if (main_window->is_connected_to_internet())
             main_window->get_geolocation_data();
         main_window->refresh_taskbar_button();
+        if (main_window->tray_icon)
+            main_window->tray_icon->refresh_tray_icon_actions();
         main_window->refresh_color_scheme();
         main_window->refresh_leading_color();
         main_window->refresh_preserve_gamma();
         main_window->refresh_color_inversion();
+    };
+    host.refresh_after_lists = [main_window] {
+        main_window->refresh_unused_pages();
+        main_window->refresh_color_triggers();
     };
     return host;
 }

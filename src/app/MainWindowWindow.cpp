@@ -272,7 +272,6 @@ void MainWindow::restore_settings()
 {
     restore_saved_settings();
     app_settings->restore();
-    emit settings_restored();
 }
 
 void MainWindow::check_for_first_start()

@@ -12,4 +12,7 @@ public:
     // Takes the lengths and the type from the settings again.
     virtual void reset_timer() = 0;
     virtual void set_timer_type(int type) = 0;
+    virtual void set_rest_screen_type(int type) = 0;
+    // A break now, at the user's request.
+    virtual void start_rest() = 0;
 };

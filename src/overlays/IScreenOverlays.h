@@ -9,6 +9,8 @@ public:
     // force they are made again even when nothing seems to have changed.
     virtual void refresh_overlay_screens(bool force) = 0;
     virtual void refresh_lightness_screens(bool force) = 0;
+    // Forgets the selected area: the overlay covers whole screens again.
+    virtual void reset_area() = 0;
     // Once a second, with the tick.
     virtual void update() = 0;
 };

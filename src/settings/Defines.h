@@ -9,6 +9,13 @@ inline constexpr const char* const APPLICATION_NAME = APPLICATION_NAME_OVRA;
 // The same text for the byte-oriented APIs (socket names, QSettings paths).
 inline constexpr const char* const APPLICATION_NAME_BYTE_ARRAY = APPLICATION_NAME;
 
+// Where the page's links lead: the maker's site, the notes of this version,
+// the first-steps page. Placeholders on a reserved domain until the site's
+// addresses are settled.
+inline constexpr const char WEBSITE_URL[] = "https://ovra.morvenik.example/";
+inline constexpr const char VERSION_URL[] = "https://ovra.morvenik.example/version/";
+inline constexpr const char WELCOME_URL[] = "https://ovra.morvenik.example/welcome/";
+
 // What a store without a version stamp reads as.
 inline constexpr const char DEFAULT_SAVE_VERSION[] = "0";
 inline constexpr const char DEFAULT_LANGUAGE[] = "en";

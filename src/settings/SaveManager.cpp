@@ -241,6 +241,8 @@ void SaveManager::save_settings(int monitor)
     for (const SettingEntry& entry : SettingsTable::pass_keys())
         if (entry.saved)
             write_from_map(settings, entry.key, entry.type);
+    if (host.unused_pages)
+        m_store->setValue(SaveKeys::UNUSED_PAGES, host.unused_pages());
 
     save_location_data(*host.latitude, *host.longitude);
     save_ignored_monitors();

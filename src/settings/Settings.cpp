@@ -207,4 +207,5 @@ void Settings::restore_settings()
 
     if (host.refresh_after_lists)
         host.refresh_after_lists();
+    emit settings_restored();
 }

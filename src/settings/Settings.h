@@ -130,4 +130,7 @@ signals:
     void set_color_triggers_list(QString value);
     void set_websites_for_blocking(QString value);
     void set_applications_for_blocking(QString value);
+
+    // The last of every push: the page may show its window after the first.
+    void settings_restored();
 };

@@ -44,6 +44,8 @@ struct SettingsHost
     std::function<QVariantList()> shortcuts_values;
     // Application name, full version, publisher, website.
     std::function<QStringList()> about_texts;
+    // The hidden pages as the controller keeps them: the push shows them,
+    // and every save pass writes them in place of the map's copy.
     std::function<QVariantList()> unused_pages;
     std::function<void()> restore_manage_monitors;
     // Geolocation, task bar button, tray actions and the refreshers of

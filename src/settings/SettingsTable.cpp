@@ -232,6 +232,11 @@ const QStringList& hotkey_keys()
     return keys;
 }
 
+QString hotkey_key(int index)
+{
+    return hotkey_keys().value(index - 1);
+}
+
 QVariant convert(const QVariant& stored, SettingType type)
 {
     switch (type) {

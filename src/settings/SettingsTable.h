@@ -46,6 +46,10 @@ const std::vector<SettingEntry>& pass_keys();
 // The fourteen hotkey keys in the order of the hotkey table.
 const QStringList& hotkey_keys();
 
+// The key of a hotkey by the page's index, which counts from 1; an empty
+// text outside 1 to 14.
+QString hotkey_key(int index);
+
 // The stored text or variant converted to the key's type.
 QVariant convert(const QVariant& stored, SettingType type);
 

@@ -13,6 +13,9 @@ public:
     virtual void refresh_selected_mode() = 0;
     virtual void refresh_tray_icon_actions() = 0;
     virtual void refresh_tray_icon_menu() = 0;
+    // The pauser entries offer the application in front; they follow the
+    // lists and the name.
+    virtual void refresh_pausers_actions() = 0;
     // The icon's colour and tooltip follow the values of the moment.
     virtual void refresh_status() = 0;
 };

@@ -44,7 +44,8 @@ const QStringList expected_order = QString(
     "set_pwm_max_frequency_value set_pwm_control_update_continuously set_use_pwm_control "
     "set_use_per_monitor_settings hook:restore_manage_monitors set_view hook:refresh_after_restore "
     "set_color_pausers_list set_timer_pausers_list set_mouse_pausers_list set_color_triggers_list "
-    "set_websites_for_blocking set_applications_for_blocking hook:refresh_after_lists ")
+    "set_websites_for_blocking set_applications_for_blocking hook:refresh_after_lists "
+    "settings_restored ")
                                        .split(' ', Qt::SkipEmptyParts);
 
 class RestorePushTest : public StoreFixture
