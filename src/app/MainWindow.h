@@ -324,6 +324,9 @@ public slots:
 
     void current_active_monitor_changed(int monitor);
     void restore_advanced_settings_values();
+    // The mode, the type and the values of the view, for a page that has
+    // just been given the settings.
+    void show_view_values();
 
     QString get_transition_times_info_string();
     void update_transition_times_info();

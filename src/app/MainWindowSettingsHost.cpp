@@ -46,6 +46,7 @@ SettingsHost main_window_settings_host()
         main_window->refresh_color_inversion();
     };
     host.refresh_after_lists = [main_window] {
+        main_window->show_view_values();
         main_window->refresh_unused_pages();
         main_window->refresh_color_triggers();
     };

@@ -270,6 +270,16 @@ void MainWindow::current_active_monitor_changed(int monitor)
 
 // Tells the page the whole stored state of the values: the six of the
 // monitor it edits, then the shared switches and screens.
+// A page moved by the native side reports nothing back, so the values of
+// the view come with every restore push instead of through the page's
+// answer to set_use_advanced_settings.
+void MainWindow::show_view_values()
+{
+    emit set_ovra_mode_dropdown_value_ui(settings[key_of(SaveKeys::OVRA_MODE)].toInt());
+    emit set_ovra_type_dropdown_value_ui(settings[key_of(SaveKeys::OVRA_TYPE)].toInt());
+    restore_advanced_settings_values();
+}
+
 void MainWindow::restore_advanced_settings_values()
 {
     const int m = current_monitor;
