@@ -6,11 +6,14 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QMetaMethod>
 #include <QSettings>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -71,6 +74,51 @@ class RecordingFactory : public GammaFactory
 public:
     IGamma* get_gamma() override { return new RecordingGamma(&calls); }
     std::vector<Call> calls;
+};
+
+// What the page is told: the controller's set_* signals named (all of them
+// when none are), in the order they come, as "name=value" with a second
+// value after ':'. Connected by index as QSignalSpy does, so one object
+// hears signals of any signature.
+class PageLog : public QObject
+{
+public:
+    explicit PageLog(QObject* window, const QStringList& only = {})
+    {
+        const QMetaObject* meta = window->metaObject();
+        for (int i = 0; i < meta->methodCount(); ++i) {
+            const QMetaMethod m = meta->method(i);
+            const QString name = QString::fromLatin1(m.name());
+            if (m.methodType() != QMetaMethod::Signal || !name.startsWith("set_")
+                || !(only.isEmpty() || only.contains(name)))
+                continue;
+            QMetaObject::connect(window, i, this,
+                                 QObject::staticMetaObject.methodCount() + int(heard.size()),
+                                 Qt::DirectConnection);
+            heard.push_back(m);
+        }
+    }
+
+    int qt_metacall(QMetaObject::Call call, int id, void** args) override
+    {
+        id = QObject::qt_metacall(call, id, args);
+        if (id < 0 || call != QMetaObject::InvokeMetaMethod)
+            return id;
+        const QMetaMethod& m = heard[size_t(id)];
+        QStringList values;
+        for (int p = 0; p < m.parameterCount(); ++p)
+            values << QVariant(m.parameterMetaType(p), args[p + 1]).toString();
+        entries << QString::fromLatin1(m.name()) + '=' + values.join(':');
+        if (on_entry)
+            on_entry();
+        return -1;
+    }
+
+    QStringList entries;
+    std::function<void()> on_entry;
+
+private:
+    std::vector<QMetaMethod> heard;
 };
 
 // The four fades, as MainWindow::fade_state numbers them.
