@@ -181,6 +181,14 @@ protected:
         window = std::make_unique<MainWindow>(nullptr);
     }
 
+    // Started, the first fade over and the backend's log empty.
+    void start_settled()
+    {
+        start();
+        finish_all_fades();
+        factory.calls.clear();
+    }
+
     std::vector<Call> writes() const
     {
         std::vector<Call> result;
@@ -208,6 +216,21 @@ protected:
         finish_fade(SWITCH_RETURN, &MainWindow::switch_state_return_timeout);
         finish_fade(RESTORE, &MainWindow::restore_colors_timeout);
         finish_fade(RETURN, &MainWindow::return_colors_timeout);
+    }
+
+    // The first `count` writes are a fade's steps from (temperature,
+    // brightness %) by the steps given, summed in float as the fade sums
+    // them, the temperature cut to whole kelvin.
+    static void expect_fade(const std::vector<Call>& w, size_t count, float temperature,
+                            float temperature_step, float brightness, float brightness_step)
+    {
+        ASSERT_GE(w.size(), count);
+        for (size_t k = 0; k < count; ++k) {
+            temperature += temperature_step;
+            brightness += brightness_step;
+            EXPECT_EQ(w[k].temperature, static_cast<int>(temperature)) << "step " << k;
+            EXPECT_NEAR(w[k].brightness, brightness / 100.0f, 1e-5) << "step " << k;
+        }
     }
 
     // A map value, read without adding the key.
