@@ -1,7 +1,6 @@
 """Helpers for tests that start the real ovra binary on the test X server."""
 import os
 import shutil
-import signal
 import struct
 import subprocess
 import tempfile
@@ -151,49 +150,40 @@ class OvraProcess:
     """One started ovra, with its output collected in files."""
 
     def __init__(self, home, args=(), env=None, cwd=None):
-        self.home = home
-        self.stdout_path = os.path.join(home, "stdout-%d.txt" % time.monotonic_ns())
-        self.stderr_path = self.stdout_path.replace("stdout", "stderr")
-        self._out = open(self.stdout_path, "w")
-        self._err = open(self.stderr_path, "w")
+        stamp = time.monotonic_ns()
+        self.paths = [os.path.join(home, "%s-%d.txt" % (name, stamp)) for name in ("out", "err")]
+        self.files = [open(path, "w") for path in self.paths]
         self.proc = subprocess.Popen([BINARY, *args], env=env, cwd=cwd or home,
-                                     stdout=self._out, stderr=self._err)
-
-    @property
-    def pid(self):
-        return self.proc.pid
+                                     stdout=self.files[0], stderr=self.files[1])
+        self.pid = self.proc.pid
+        self.send = self.proc.send_signal
 
     def stdout(self):
-        with open(self.stdout_path) as f:
+        with open(self.paths[0]) as f:
             return f.read()
 
     def stderr(self):
-        with open(self.stderr_path) as f:
+        with open(self.paths[1]) as f:
             return f.read()
-
-    def send(self, sig):
-        self.proc.send_signal(sig)
 
     def wait(self, timeout=10):
         try:
             return self.proc.wait(timeout=timeout)
         finally:
-            self._out.close()
-            self._err.close()
+            for f in self.files:
+                f.close()
 
     def alive(self):
         return self.proc.poll() is None
 
     def stop(self):
         if self.alive():
-            self.proc.send_signal(signal.SIGTERM)
+            self.proc.terminate()
             try:
                 self.proc.wait(timeout=15)
             except subprocess.TimeoutExpired:
                 self.proc.kill()
-                self.proc.wait()
-        self._out.close()
-        self._err.close()
+        self.wait()
 
 
 class OvraTestCase(unittest.TestCase):

@@ -7,7 +7,7 @@ import signal
 import subprocess
 import time
 
-from harness import (BINARY, OvraTestCase, expected_tint, make_linear, ramps_close, read_ramps,
+from harness import (BINARY, OvraTestCase, expected_tint, make_linear, read_ramps,
                      wait_for, write_ramps)
 
 SOURCE_DIR = os.environ.get("OVRA_SOURCE_DIR", "")
@@ -195,25 +195,3 @@ class AnsweredBeforeStarting(OvraTestCase):
         windows = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(running.pid),
                                   "--name", "^Ovra$"], capture_output=True, text=True).stdout
         self.assertEqual(windows, "")
-
-
-class CutCurveFile(OvraTestCase):
-
-    def test_a_cut_brightness_file_is_refused_with_one_line(self):
-        work = os.path.join(self.base, "work")
-        os.makedirs(work)
-        # Read as it stands, the cut line would be 0 % all day, held at 5 %.
-        with open(os.path.join(work, "brightnessConfig.txt"), "w") as f:
-            f.write("0 24 60\n0 24")
-        self.write_config(TINT)
-        p = self.start(cwd=work)
-        tinted = expected_tint(self.original, 3400, 80)
-        self.wait_for_ramps(tinted)
-        time.sleep(1.5)  # the file is looked at every second
-        self.assertTrue(ramps_close(read_ramps(), tinted), "the curve file took over")
-        p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=15), 0)
-        lines = [l for l in p.stderr().splitlines() if l.strip()]
-        self.assertEqual(len(lines), 1, p.stderr())
-        self.assertIn("brightnessConfig.txt", lines[0])
-        self.assertEqual(self.stored().get("NightBrightness"), "80")
