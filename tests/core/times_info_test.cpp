@@ -7,9 +7,8 @@
 #include <QStringList>
 #include <QTime>
 
-#include <cmath>
-#include <cstdlib>
 #include <ctime>
+#include <iterator>
 
 #include "ControllerFixture.h"
 
@@ -23,20 +22,15 @@ protected:
     void SetUp() override
     {
         ControllerTest::SetUp();
-        store_values["NightStartTimeHours"] = 21;
-        store_values["NightStartTimeMinutes"] = 30;
-        store_values["NightEndTimeHours"] = 6;
-        store_values["NightEndTimeMinutes"] = 45;
-        store_values["BedtimeHours"] = 0;
-        store_values["BedtimeMinutes"] = 10;
-        store_values["WakeTimeHours"] = 7;
-        store_values["WakeTimeMinutes"] = 0;
-        store_values["DayTransitionDuration"] = 1800;
-        store_values["NightTransitionDuration"] = 5400;
-        store_values["SleepTransitionDuration"] = 900;
-        store_values["TimeZoneOffset"] = -5;
-        store_values["NewMoonOffset"] = 300;
-        store_values["FullMoonOffset"] = 300;
+        const std::pair<const char*, int> values[] = {
+            {"NightStartTimeHours", 21}, {"NightStartTimeMinutes", 30}, {"NightEndTimeHours", 6},
+            {"NightEndTimeMinutes", 45}, {"BedtimeHours", 0},           {"BedtimeMinutes", 10},
+            {"WakeTimeHours", 7},        {"WakeTimeMinutes", 0},        {"DayTransitionDuration", 1800},
+            {"NightTransitionDuration", 5400}, {"SleepTransitionDuration", 900},
+            {"TimeZoneOffset", -5},      {"NewMoonOffset", 300},        {"FullMoonOffset", 300},
+        };
+        for (const auto& [key, value] : values)
+            store_values[key] = value;
         store_values["UseManualLocation"] = true;
     }
 

@@ -132,21 +132,13 @@ TEST_F(Types, EachTypeWritesItsRowClearsThePauseAndFadesToItsNightValues)
 
 TEST_F(Types, AChosenTypeFadesInFortyStepsFromWhereTheDisplayStands)
 {
-    start();
-    finish_fade(RETURN, &MainWindow::return_colors_timeout);
-    factory.calls.clear();
-
+    start_settled();
     window->ovra_type_changed(6);
     ASSERT_TRUE(window->fade_state(RETURN).active);
     EXPECT_TRUE(writes().empty()) << "the fade writes, from its timer";
     EXPECT_EQ(finish_fade(RETURN, &MainWindow::return_colors_timeout), 41);
-    const auto w = writes();
-    // From 3400 K and 80 % to 6500 K and 75 %: steps of 77.5 K and -0.125 %.
-    ASSERT_GE(w.size(), 40u);
-    EXPECT_EQ(w[0].temperature, 3477);
-    EXPECT_NEAR(w[0].brightness, 0.79875, 1e-5);
-    EXPECT_EQ(w[39].temperature, 6500);
-    EXPECT_NEAR(w[39].brightness, 0.75, 1e-5);
+    // From 3400 K and 80 % to Sunglasses' 6500 K and 75 %.
+    expect_fade(writes(), 40, 3400, 77.5f, 80, -0.125f);
 }
 
 TEST_F(Types, TheStoredTypeFromThePageDoesNothingTheTrayReapplies)
