@@ -9,69 +9,54 @@ using namespace controller_test;
 
 namespace {
 
-class ColorSlots : public ControllerTest
-{
-protected:
-    void start_settled()
-    {
-        start();
-        finish_all_fades();
-        factory.calls.clear();
-    }
+using ColorSlots = ControllerTest;
 
-    std::vector<float> white_point(int kelvin)
+// Both choose how the white point is read, and show at once, not at the
+// next tick.
+TEST_F(ColorSlots, SchemeAndLeadingColourChangeTheWhitePointAtOnce)
+{
+    const struct
     {
+        void (MainWindow::*change)(int);
+        const char* key;
+        const char* signal;
+        int kelvin;
+        float white[3];
+    } cases[] = {
+        // The second table's row of 3400 K.
+        {&MainWindow::color_scheme_changed, "ColorScheme", "set_color_scheme_dropdown_value", 3400,
+         {1.0f, .5650f, .2335f}},
+        // With blue leading, blue reads the red of the next row: 6600 K's.
+        {&MainWindow::leading_color_changed, "LeadingColor", "set_leading_color_dropdown_value", 6500,
+         {1.0f, 1.0f, .98947904f}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.key);
+        start_settled();
+        PageLog page(window.get(), {c.signal});
+        (window.get()->*c.change)(2);
+        (window.get()->*c.change)(2);
+        EXPECT_EQ(stored(c.key).toInt(), 2);
+        EXPECT_EQ(page.entries, QStringList(QString(c.signal) + "=2"));
+        EXPECT_EQ(writes().size(), 1u);
         float w[3] = {0, 0, 0};
-        window->gamma_backend()->get_color_ramp()->white_point(kelvin, w);
-        return {w[0], w[1], w[2]};
+        window->gamma_backend()->get_color_ramp()->white_point(c.kelvin, w);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_NEAR(w[i], c.white[i], 1e-6) << i;
+        TearDown();
+        SetUp();
     }
-};
-
-TEST_F(ColorSlots, SchemeIsStoredAppliedAtOnceAndReportedOnce)
-{
-    start_settled();
-    std::vector<int> reported;
-    QObject::connect(window.get(), &MainWindow::set_color_scheme_dropdown_value,
-                     [&](int v) { reported.push_back(v); });
-
-    window->color_scheme_changed(2);
-    EXPECT_EQ(stored("ColorScheme").toInt(), 2);
-    // The second table's row of 3400 K: red 1, green .5650, blue .2335.
-    const auto w = white_point(3400);
-    EXPECT_FLOAT_EQ(w[0], 1.0f);
-    EXPECT_NEAR(w[1], .5650f, 1e-6);
-    EXPECT_NEAR(w[2], .2335f, 1e-6);
-    ASSERT_EQ(writes().size(), 1u) << "the new scheme shows at once, not at the next tick";
-
-    window->color_scheme_changed(2);
-    EXPECT_EQ(reported, std::vector<int>({2}));
-    EXPECT_EQ(writes().size(), 1u);
-}
-
-TEST_F(ColorSlots, LeadingColourShiftsWhereTheChannelsRead)
-{
-    start_settled();
-    window->leading_color_changed(2);
-    EXPECT_EQ(stored("LeadingColor").toInt(), 2);
-    // With blue leading, blue reads the red of the next row: 6600 K's red.
-    const auto w = white_point(6500);
-    EXPECT_FLOAT_EQ(w[0], 1.0f);
-    EXPECT_FLOAT_EQ(w[1], 1.0f);
-    EXPECT_NEAR(w[2], .98947904f, 1e-6);
-    EXPECT_EQ(writes().size(), 1u);
 }
 
 TEST_F(ColorSlots, TurningPreserveOffDropsTheCalibrationInTheBackend)
 {
     start_settled();
     ASSERT_TRUE(window->gamma_backend()->is_gamma_preserved());
-    bool reported = true;
-    QObject::connect(window.get(), &MainWindow::set_preserve_gamma,
-                     [&](bool v) { reported = v; });
+    PageLog page(window.get(), {"set_preserve_gamma"});
 
     window->preserve_gamma_changed(false);
     EXPECT_FALSE(stored("PreserveGamma").toBool());
-    EXPECT_FALSE(reported);
+    EXPECT_EQ(page.entries, QStringList("set_preserve_gamma=false"));
     EXPECT_FALSE(window->gamma_backend()->is_gamma_preserved());
     ASSERT_FALSE(factory.calls.empty());
     EXPECT_EQ(factory.calls.front().what, "reset");
@@ -96,6 +81,7 @@ TEST_F(ColorSlots, PauseLengthIsOnlyStoredAndTakesEffectAtTheNextFade)
     // 500 ms at 25 ms a step: 20 steps, one more tick to notice the end.
     EXPECT_EQ(finish_fade(RESTORE, &MainWindow::restore_colors_timeout), 21);
     EXPECT_EQ(writes().size(), 20u);
+    expect_fade(writes(), 20, 3400, 155, 80, 1);
     EXPECT_EQ(factory.calls.back().what, "restore");
 }
 

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <tuple>
+
 #include "ControllerFixture.h"
 #include "app/SingleApplication.h"
 
@@ -12,17 +14,8 @@ using namespace controller_test;
 
 namespace {
 
-class PauseFades : public ControllerTest
-{
-protected:
-    // Started, first fade done, backend log empty: 3400 K at 80 %.
-    void start_settled()
-    {
-        start();
-        finish_all_fades();
-        factory.calls.clear();
-    }
-};
+// Most start settled at 3400 K and 80 %.
+using PauseFades = ControllerTest;
 
 TEST_F(PauseFades, InvertedPauseDarkensFlipsOffAndComesUpToNeutral)
 {
@@ -33,30 +26,19 @@ TEST_F(PauseFades, InvertedPauseDarkensFlipsOffAndComesUpToNeutral)
     window->pause_ovra(true);
     EXPECT_FALSE(window->fade_state(RESTORE).active) << "the inverted form replaces the plain fade";
     ASSERT_TRUE(window->fade_state(SWITCH).active);
-    // (100 - 3400) / 20 and (10 - 80) / 20.
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH).temperature_step, -165.0f);
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH).brightness_step, -3.5f);
     EXPECT_EQ(finish_fade(SWITCH, &MainWindow::switch_state_timeout), 21);
-    auto w = writes();
-    ASSERT_EQ(w.size(), 20u);
-    for (size_t k = 0; k < w.size(); ++k) {
-        EXPECT_EQ(w[k].temperature, 3400 - 165 * static_cast<int>(k + 1)) << k;
-        EXPECT_TRUE(w[k].inverted) << "darkening happens with the inversion on";
-    }
+    ASSERT_EQ(writes().size(), 20u);
+    expect_fade(writes(), 20, 3400, -165, 80, -3.5f);
+    for (const Call& c : writes())
+        EXPECT_TRUE(c.inverted) << "darkening happens with the inversion on";
 
-    ASSERT_TRUE(window->fade_state(SWITCH_RETURN).active);
-    // The fixed steps towards neutral: (6500 - 100) / 20 and (100 - 10) / 20.
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH_RETURN).temperature_step, 320.0f);
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH_RETURN).brightness_step, 4.5f);
+    // Up to neutral with the inversion off.
     factory.calls.clear();
     EXPECT_EQ(finish_fade(SWITCH_RETURN, &MainWindow::switch_state_return_timeout), 21);
-    w = writes();
-    ASSERT_EQ(w.size(), 20u);
-    for (size_t k = 0; k < w.size(); ++k) {
-        EXPECT_EQ(w[k].temperature, 100 + 320 * static_cast<int>(k + 1)) << k;
-        EXPECT_NEAR(w[k].brightness, (10 + 4.5 * (k + 1)) / 100.0, 1e-5) << k;
-        EXPECT_FALSE(w[k].inverted) << "the flip at the dark point turned it off";
-    }
+    ASSERT_EQ(writes().size(), 20u);
+    expect_fade(writes(), 20, 100, 320, 10, 4.5f);
+    for (const Call& c : writes())
+        EXPECT_FALSE(c.inverted) << "the flip at the dark point turned it off";
     // It rests on the saved ramps, as a plain pause does.
     EXPECT_EQ(factory.calls.back().what, "restore");
     // The stored choice is still inverted, and the backend flag follows it.
@@ -90,28 +72,19 @@ TEST_F(PauseFades, InvertedResumeDarkensPlainAndComesUpInvertedToTheCurve)
 
     window->pause_ovra(false);
     ASSERT_TRUE(window->fade_state(SWITCH).active);
-    // From neutral: (100 - 6500) / 20 and (10 - 100) / 20.
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH).temperature_step, -320.0f);
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH).brightness_step, -4.5f);
     finish_fade(SWITCH, &MainWindow::switch_state_timeout);
-    auto w = writes();
-    ASSERT_EQ(w.size(), 20u);
-    EXPECT_EQ(w[0].temperature, 6180);
-    for (const Call& c : w)
+    ASSERT_EQ(writes().size(), 20u);
+    expect_fade(writes(), 20, 6500, -320, 100, -4.5f);
+    for (const Call& c : writes())
         EXPECT_FALSE(c.inverted);
 
-    // Up again towards 3400 K and 80 %: (3400 - 100) / 20 and (80 - 10) / 20.
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH_RETURN).temperature_step, 165.0f);
-    EXPECT_FLOAT_EQ(window->fade_state(SWITCH_RETURN).brightness_step, 3.5f);
     factory.calls.clear();
     finish_fade(SWITCH_RETURN, &MainWindow::switch_state_return_timeout);
-    w = writes();
-    ASSERT_EQ(w.size(), 21u) << "twenty fade steps, then the tick takes over";
-    for (const Call& c : w)
+    ASSERT_EQ(writes().size(), 21u) << "twenty fade steps, then the tick takes over";
+    expect_fade(writes(), 20, 100, 165, 10, 3.5f);
+    EXPECT_EQ(writes().back().temperature, 3400);
+    for (const Call& c : writes())
         EXPECT_TRUE(c.inverted);
-    EXPECT_EQ(w[0].temperature, 265);
-    EXPECT_EQ(w.back().temperature, 3400);
-    EXPECT_NEAR(w.back().brightness, 0.80f, 1e-6);
 }
 
 TEST_F(PauseFades, InvertingWhilePausedOnlyStoresAndSetsTheFlag)
@@ -166,15 +139,10 @@ TEST_F(PauseFades, MoveToTakesFortyStepsToTheGivenValues)
     start_settled();
     window->move_to(5000, 90);
     ASSERT_TRUE(window->fade_state(RETURN).active);
-    // (5000 - 3400) / 40 and (90 - 80) / 40.
-    EXPECT_FLOAT_EQ(window->fade_state(RETURN).temperature_step, 40.0f);
-    EXPECT_FLOAT_EQ(window->fade_state(RETURN).brightness_step, 0.25f);
     for (int i = 0; i < 40; ++i)
         window->return_colors_timeout();
-    const auto w = writes();
-    ASSERT_EQ(w.size(), 40u);
-    EXPECT_EQ(w.back().temperature, 5000);
-    EXPECT_NEAR(w.back().brightness, 0.90f, 1e-6);
+    ASSERT_EQ(writes().size(), 40u);
+    expect_fade(writes(), 40, 3400, 40, 80, 0.25f);
 
     // Refused while paused.
     finish_fade(RETURN, &MainWindow::return_colors_timeout);
@@ -184,37 +152,15 @@ TEST_F(PauseFades, MoveToTakesFortyStepsToTheGivenValues)
     EXPECT_FALSE(window->fade_state(RETURN).active);
 }
 
-TEST_F(PauseFades, PerMonitorPauseRestoresAtOnce)
-{
-    store_values["UsePerMonitorSettings"] = true;
-    MainWindow::screen_count_override = 1;
-    start_settled();
-    window->pause_ovra(true);
-    EXPECT_FALSE(window->fade_state(RESTORE).active);
-    ASSERT_EQ(factory.calls.size(), 1u);
-    EXPECT_EQ(factory.calls[0].what, "restore");
-}
-
-TEST_F(PauseFades, NoScreensInPerMonitorModeWritesNothing)
-{
-    store_values["UsePerMonitorSettings"] = true;
-    MainWindow::screen_count_override = 0;
-    start_settled();
-    EXPECT_EQ(window->update_gamma(), 0);
-    EXPECT_TRUE(writes().empty());
 }
 
 TEST_F(PauseFades, DayIsSixToEighteenOnTheClock)
 {
     start_settled();
-    clock.set(QDateTime(QDate(2026, 1, 5), QTime(5, 59), Qt::UTC));
-    EXPECT_FALSE(window->is_day());
-    clock.set(QDateTime(QDate(2026, 1, 5), QTime(6, 0), Qt::UTC));
-    EXPECT_TRUE(window->is_day());
-    clock.set(QDateTime(QDate(2026, 1, 5), QTime(17, 59), Qt::UTC));
-    EXPECT_TRUE(window->is_day());
-    clock.set(QDateTime(QDate(2026, 1, 5), QTime(18, 0), Qt::UTC));
-    EXPECT_FALSE(window->is_day());
+    for (const auto& [hour, minute, day] : {std::tuple{5, 59, false}, {6, 0, true}, {17, 59, true}, {18, 0, false}}) {
+        clock.set(QDateTime(QDate(2026, 1, 5), QTime(hour, minute), Qt::UTC));
+        EXPECT_EQ(window->is_day(), day) << hour << ":" << minute;
+    }
 }
 
 using ClosingDeathTest = PauseFades;

@@ -7,9 +7,8 @@
 #include <QStringList>
 #include <QTime>
 
-#include <cmath>
-#include <cstdlib>
 #include <ctime>
+#include <iterator>
 
 #include "ControllerFixture.h"
 
@@ -23,20 +22,15 @@ protected:
     void SetUp() override
     {
         ControllerTest::SetUp();
-        store_values["NightStartTimeHours"] = 21;
-        store_values["NightStartTimeMinutes"] = 30;
-        store_values["NightEndTimeHours"] = 6;
-        store_values["NightEndTimeMinutes"] = 45;
-        store_values["BedtimeHours"] = 0;
-        store_values["BedtimeMinutes"] = 10;
-        store_values["WakeTimeHours"] = 7;
-        store_values["WakeTimeMinutes"] = 0;
-        store_values["DayTransitionDuration"] = 1800;
-        store_values["NightTransitionDuration"] = 5400;
-        store_values["SleepTransitionDuration"] = 900;
-        store_values["TimeZoneOffset"] = -5;
-        store_values["NewMoonOffset"] = 300;
-        store_values["FullMoonOffset"] = 300;
+        const std::pair<const char*, int> values[] = {
+            {"NightStartTimeHours", 21}, {"NightStartTimeMinutes", 30}, {"NightEndTimeHours", 6},
+            {"NightEndTimeMinutes", 45}, {"BedtimeHours", 0},           {"BedtimeMinutes", 10},
+            {"WakeTimeHours", 7},        {"WakeTimeMinutes", 0},        {"DayTransitionDuration", 1800},
+            {"NightTransitionDuration", 5400}, {"SleepTransitionDuration", 900},
+            {"TimeZoneOffset", -5},      {"NewMoonOffset", 300},        {"FullMoonOffset", 300},
+        };
+        for (const auto& [key, value] : values)
+            store_values[key] = value;
         store_values["UseManualLocation"] = true;
     }
 
@@ -115,13 +109,7 @@ TEST_F(TimesInfo, AManualNightDurationChoosesTheClockFormEvenWithALocation)
     EXPECT_EQ(lines[0], " Day start time - 06:45:00");
 }
 
-// Seconds of the day of a local time given in milliseconds since the epoch.
-int local_seconds(double msecs)
-{
-    const QTime t = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(msecs)).time();
-    return t.msecsSinceStartOfDay() / 1000;
-}
-
+// Seconds of the day of a clock text, or of a local time in milliseconds.
 int seconds_of(const QString& clock_text)
 {
     const QTime t = QTime::fromString(clock_text, "hh:mm:ss");
@@ -129,13 +117,17 @@ int seconds_of(const QString& clock_text)
     return t.msecsSinceStartOfDay() / 1000;
 }
 
+int seconds_of(double msecs)
+{
+    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(msecs)).time().msecsSinceStartOfDay() / 1000;
+}
+
 // "9 hour 34 min 21 sec " back into seconds.
 int length_of(const QString& text)
 {
     static const QRegularExpression part("(\\d+) (hour|min|sec) ");
     int seconds = 0;
-    auto it = part.globalMatch(text);
-    while (it.hasNext()) {
+    for (auto it = part.globalMatch(text); it.hasNext();) {
         const auto m = it.next();
         const int n = m.captured(1).toInt();
         seconds += m.captured(2) == "hour" ? n * 3600 : m.captured(2) == "min" ? n * 60 : n;
@@ -149,103 +141,88 @@ TEST_F(TimesInfo, TheSolarFormFollowsTheSunTheSetTimesAndTheMoon)
     window->latitude = 40.7128;
     window->longitude = -74.006;
 
-    // Sunrise and sunset of that day by an independent ephemeris, and how
-    // far the curve's own calculation may stray from them at this latitude.
-    const double rise = 1736943492313.0;
-    const double set = 1736977953400.0;
+    // Sunrise and sunset of that day by an independent ephemeris, less the
+    // five minutes of both moon offsets, and how far the curve's own
+    // calculation may stray from them at this latitude.
+    const double rise = 1736943492313.0, set = 1736977953400.0, moon = 300000.0;
     const int tolerance = 180;
-    const double moon = 300000.0; // both moon offsets are 5 minutes
-
+    enum Kind { TEXT, SUN, LENGTH };
+    const struct
+    {
+        const char* label;
+        Kind kind;
+        double value; // milliseconds since the epoch, or a length in seconds
+        const char* text;
+    } expected[] = {
+        {"Day start time", SUN, rise - moon, nullptr},
+        {"Day transition start time", SUN, rise - 900000.0 - moon, nullptr},
+        {"Day transition end time", SUN, rise + 900000.0 - moon, nullptr},
+        {"Day end time", SUN, set - moon, nullptr},
+        {nullptr, TEXT, 0, ""},
+        {"Night start time", SUN, set - moon, nullptr},
+        {"Night transition start time", SUN, set - 2700000.0 - moon, nullptr},
+        {"Night transition end time", SUN, set + 2700000.0 - moon, nullptr},
+        {"Night end time", SUN, rise - moon, nullptr},
+        {nullptr, TEXT, 0, ""},
+        {"Bedtime", TEXT, 0, "00:10:00"},
+        {"Bedtime transition start time", TEXT, 0, "23:55:00"},
+        {"Bedtime transition end time", TEXT, 0, "00:10:00"},
+        {"Bedtime end time", TEXT, 0, "07:00:00"},
+        {nullptr, TEXT, 0, ""},
+        {"Wake time", TEXT, 0, "07:00:00"},
+        {"Wake time transition start time", TEXT, 0, "06:45:00"},
+        {"Wake time transition end time", TEXT, 0, "07:00:00"},
+        {"Wake time end time", TEXT, 0, "00:10:00"},
+        {nullptr, TEXT, 0, ""},
+        {"Day duration", LENGTH, (set - rise) / 1000.0, nullptr},
+        // The sun's lengths always name their seconds, also when there are none.
+        {"Day transition duration", TEXT, 0, "30 min 0 sec"},
+        {"Night duration", LENGTH, 86400.0 - (set - rise) / 1000.0, nullptr},
+        {"Night transition duration", TEXT, 0, "1 hour 30 min 0 sec"},
+        {"Sleep duration", TEXT, 0, "6 hour 50 min "},
+        {"Sleep transition duration", TEXT, 0, "15 min 0 sec"},
+        {nullptr, TEXT, 0, ""},
+        {"Time zone", TEXT, 0, "EST"},
+        {"Custom Time zone offset", TEXT, 0, "-5 hours"},
+        {nullptr, TEXT, 0, ""},
+        {"Sunrise time", SUN, rise, nullptr},
+        {"Sunset time", SUN, set, nullptr},
+        {nullptr, TEXT, 0, ""},
+        {"New moon offset", TEXT, 0, "5 min 0 sec"},
+        {"Full moon offset", TEXT, 0, "5 min 0 sec"},
+        {"Current moon offset", TEXT, 0, "5 min 0 sec"},
+        {nullptr, TEXT, 0, ""},
+    };
     const QStringList lines = lines_of(window->get_transition_times_info_string());
-    const QStringList labels = {
-        "Day start time", "Day transition start time", "Day transition end time", "Day end time",
-        "",
-        "Night start time", "Night transition start time", "Night transition end time",
-        "Night end time", "",
-        "Bedtime", "Bedtime transition start time", "Bedtime transition end time",
-        "Bedtime end time", "",
-        "Wake time", "Wake time transition start time", "Wake time transition end time",
-        "Wake time end time", "",
-        "Day duration", "Day transition duration", "Night duration", "Night transition duration",
-        "Sleep duration", "Sleep transition duration", "",
-        "Time zone", "Custom Time zone offset", "",
-        "Sunrise time", "Sunset time", "",
-        "New moon offset", "Full moon offset", "Current moon offset", "",
-    };
-    ASSERT_EQ(lines.size(), labels.size());
-    std::map<QString, QString> value;
+    ASSERT_EQ(lines.size(), int(std::size(expected)));
     for (int i = 0; i < lines.size(); ++i) {
-        if (labels[i].isEmpty()) {
-            EXPECT_EQ(lines[i], "") << i;
-            continue;
-        }
-        const QString head = ' ' + labels[i] + " - ";
-        ASSERT_TRUE(lines[i].startsWith(head)) << lines[i].toStdString();
-        value[labels[i]] = lines[i].mid(head.size());
+        const auto& e = expected[i];
+        const QString head = e.label ? ' ' + QString(e.label) + " - " : QString();
+        ASSERT_TRUE(lines[i].startsWith(head)) << i << ": " << lines[i].toStdString();
+        const QString value = lines[i].mid(head.size());
+        if (e.kind == TEXT)
+            EXPECT_EQ(value, e.text) << i;
+        else if (e.kind == SUN)
+            EXPECT_NEAR(seconds_of(value), seconds_of(e.value), tolerance) << e.label;
+        else
+            EXPECT_NEAR(length_of(value), e.value, 2 * tolerance) << e.label;
     }
-
-    auto near_sun = [&](const char* label, double msecs) {
-        EXPECT_NEAR(seconds_of(value[label]), local_seconds(msecs), tolerance) << label;
-    };
-    near_sun("Day start time", rise - moon);
-    near_sun("Day transition start time", rise - 900000.0 - moon);
-    near_sun("Day transition end time", rise + 900000.0 - moon);
-    near_sun("Day end time", set - moon);
-    near_sun("Night start time", set - moon);
-    near_sun("Night transition start time", set - 2700000.0 - moon);
-    near_sun("Night transition end time", set + 2700000.0 - moon);
-    near_sun("Night end time", rise - moon);
-    near_sun("Sunrise time", rise);
-    near_sun("Sunset time", set);
     // The ramps keep their width exactly.
-    EXPECT_EQ(seconds_of(value["Day transition end time"])
-                  - seconds_of(value["Day transition start time"]),
-              1800);
-
-    EXPECT_EQ(value["Bedtime"], "00:10:00");
-    EXPECT_EQ(value["Bedtime transition start time"], "23:55:00");
-    EXPECT_EQ(value["Bedtime transition end time"], "00:10:00");
-    EXPECT_EQ(value["Bedtime end time"], "07:00:00");
-    EXPECT_EQ(value["Wake time"], "07:00:00");
-    EXPECT_EQ(value["Wake time transition start time"], "06:45:00");
-    EXPECT_EQ(value["Wake time transition end time"], "07:00:00");
-    EXPECT_EQ(value["Wake time end time"], "00:10:00");
-
-    EXPECT_NEAR(length_of(value["Day duration"]), (set - rise) / 1000.0, 2 * tolerance);
-    EXPECT_NEAR(length_of(value["Night duration"]), 86400.0 - (set - rise) / 1000.0,
-                2 * tolerance);
-    // The sun's lengths always name their seconds, also when there are none.
-    EXPECT_EQ(value["Day transition duration"], "30 min 0 sec");
-    EXPECT_EQ(value["Night transition duration"], "1 hour 30 min 0 sec");
-    EXPECT_EQ(value["Sleep transition duration"], "15 min 0 sec");
-    EXPECT_EQ(value["Sleep duration"], "6 hour 50 min ");
-
-    EXPECT_EQ(value["Time zone"], "EST");
-    EXPECT_EQ(value["Custom Time zone offset"], "-5 hours");
-    EXPECT_EQ(value["New moon offset"], "5 min 0 sec");
-    EXPECT_EQ(value["Full moon offset"], "5 min 0 sec");
-    EXPECT_EQ(value["Current moon offset"], "5 min 0 sec");
+    EXPECT_EQ(seconds_of(lines[2].section(" - ", 1)) - seconds_of(lines[1].section(" - ", 1)), 1800);
 }
 
 TEST_F(TimesInfo, BothSignalsCarryTheSameReport)
 {
     start_in_new_york();
-    QStringList transition;
-    QStringList moon;
-    QObject::connect(window.get(), &MainWindow::set_transition_times_info,
-                     [&](const QString& text) { transition << text; });
-    QObject::connect(window.get(), &MainWindow::set_moon_phases_info,
-                     [&](const QString& text) { moon << text; });
+    PageLog page(window.get(), {"set_transition_times_info", "set_moon_phases_info"});
     window->update_times_info();
-    ASSERT_EQ(transition.size(), 1);
-    ASSERT_EQ(moon.size(), 1);
-    EXPECT_EQ(transition[0], moon[0]);
-    EXPECT_TRUE(transition[0].startsWith(" Day start time - 06:45:00\n"));
+    const QString report = window->get_transition_times_info_string();
+    EXPECT_EQ(page.entries, QStringList({"set_transition_times_info=" + report, "set_moon_phases_info=" + report}));
 
     // A curve setting sends it again with the new times.
     window->night_start_time_changed(22, 0);
-    ASSERT_EQ(transition.size(), 2);
-    EXPECT_TRUE(transition[1].contains(" Night start time - 22:00:00\n"));
+    ASSERT_EQ(page.entries.size(), 4);
+    EXPECT_TRUE(page.entries[2].contains(" Night start time - 22:00:00\n"));
 }
 
 TEST_F(TimesInfo, ThePageGetsTheReportOnceItHasLoaded)

@@ -34,13 +34,18 @@ const TypeRow TYPE_TABLE[] = {
     {7, 5000, 3400, 2700, 100, 80, 75, false, false, false, true},
     {8, 6500, 6500, 6500, 120, 120, 120, false, false, false, false},
     {9, 6500, 6500, 6500, 100, 100, 100, false, false, true, false},
+    // Custom and unknown numbers write the base values and leave effects,
+    // screens and inversion as they were.
+    {0, 5000, 3400, 2700, 100, 80, 75, true, true, true, true},
+    {10, 5000, 3400, 2700, 100, 80, 75, true, true, true, true},
+    {42, 5000, 3400, 2700, 100, 80, 75, true, true, true, true},
 };
 
 class Types : public ControllerTest
 {
 protected:
-    // Starts with values no type has, every screen and effect on, and colour
-    // changes paused, so that a type has something to change.
+    // Starts with values no type has, every screen, effect and the inversion
+    // on, and colour changes paused, so that a type has something to change.
     void start_custom()
     {
         store_values["DayTemperature"] = 4100;
@@ -53,6 +58,7 @@ protected:
         store_values["ColorEffect"] = 5;
         store_values["UseOverlayScreen"] = true;
         store_values["UseLightnessScreen"] = true;
+        store_values["UseInvertedColors"] = true;
         store_values["ColorChangesPaused"] = true;
         store_values["LightnessScreenOpacity"] = 70;
         store_values["DayOpacity"] = 20;
@@ -63,17 +69,13 @@ protected:
 
     void connect_page()
     {
-        QObject::connect(window.get(), &MainWindow::set_ovra_type_dropdown_value_ui,
-                         [this](int v) { page << QString("type_ui=%1").arg(v); });
-        QObject::connect(window.get(), &MainWindow::set_ovra_mode_dropdown_value_ui,
-                         [this](int v) { page << QString("mode_ui=%1").arg(v); });
-        QObject::connect(window.get(), &MainWindow::set_use_advanced_settings,
-                         [this](bool v) { page << QString("advanced=%1").arg(v); });
-        QObject::connect(window.get(), &MainWindow::set_timer_type_dropdown_value,
-                         [this](int v) { page << QString("timer_type=%1").arg(v); });
-        QObject::connect(window.get(), &MainWindow::set_strictness_value,
-                         [this](int v) { page << QString("strictness=%1").arg(v); });
+        page = std::make_unique<PageLog>(
+            window.get(), QStringList{"set_ovra_type_dropdown_value_ui", "set_ovra_mode_dropdown_value_ui",
+                                      "set_use_advanced_settings", "set_timer_type_dropdown_value",
+                                      "set_strictness_value"});
     }
+
+    QStringList told() const { return page->entries; }
 
     // The page answers the plain dropdown signals by calling the _force
     // slots with force true.
@@ -88,7 +90,7 @@ protected:
     int number(const char* key) const { return stored(key).toInt(); }
     bool flag(const char* key) const { return stored(key).toBool(); }
 
-    QStringList page;
+    std::unique_ptr<PageLog> page;
 };
 
 TEST_F(Types, EachTypeWritesItsRowClearsThePauseAndFadesToItsNightValues)
@@ -113,7 +115,7 @@ TEST_F(Types, EachTypeWritesItsRowClearsThePauseAndFadesToItsNightValues)
         EXPECT_EQ(flag("UseOverlayScreen"), row.overlay);
         EXPECT_EQ(flag("UseLightnessScreen"), row.lightness);
         EXPECT_EQ(flag("UseInvertedColors"), row.inverted);
-        EXPECT_EQ(page.last(), QString("type_ui=%1").arg(row.type));
+        EXPECT_EQ(told().last(), QString("set_ovra_type_dropdown_value_ui=%1").arg(row.type));
 
         finish_all_fades();
         const auto w = writes();
@@ -125,80 +127,18 @@ TEST_F(Types, EachTypeWritesItsRowClearsThePauseAndFadesToItsNightValues)
 
         TearDown();
         SetUp();
-        page.clear();
-    }
-}
-
-TEST_F(Types, ScreensAndEffectsOfReadingDarkAndOverlay)
-{
-    start_custom();
-    window->ovra_type_changed(3);
-    EXPECT_EQ(number("ColorEffect"), 2);
-    EXPECT_EQ(number("LightnessScreenOpacity"), 70) << "Reading leaves the lightness values";
-
-    window->ovra_type_changed(7);
-    EXPECT_EQ(number("LightnessScreenOpacity"), 30);
-    EXPECT_EQ(number("LightnessScreenRadius"), 30);
-    EXPECT_EQ(number("LightnessScreenXPosition"), 50);
-    EXPECT_EQ(number("LightnessScreenYPosition"), 50);
-    EXPECT_EQ(number("ColorEffect"), 2) << "only Reading sets the effect";
-    EXPECT_TRUE(flag("UseLightnessScreen"));
-    EXPECT_FALSE(flag("UseOverlayScreen"));
-    EXPECT_EQ(number("DayOpacity"), 20);
-
-    window->ovra_type_changed(9);
-    EXPECT_EQ(number("DayOpacity"), 5);
-    EXPECT_EQ(number("NightOpacity"), 40);
-    EXPECT_EQ(number("DayDim"), 0);
-    EXPECT_EQ(number("NightDim"), 10);
-    EXPECT_TRUE(flag("UseOverlayScreen"));
-    EXPECT_FALSE(flag("UseLightnessScreen"));
-}
-
-TEST_F(Types, CustomAndUnknownTypesWriteOnlyTheBaseValues)
-{
-    for (int type : {0, 10, 42}) {
-        SCOPED_TRACE(type);
-        store_values["UseInvertedColors"] = true;
-        start_custom();
-        window->ovra_type_changed(type);
-        EXPECT_EQ(number("OvraType"), type);
-        EXPECT_EQ(number("DayTemperature"), 5000);
-        EXPECT_EQ(number("NightTemperature"), 3400);
-        EXPECT_EQ(number("SleepLight"), 2700);
-        EXPECT_EQ(number("DayBrightness"), 100);
-        EXPECT_EQ(number("NightBrightness"), 80);
-        EXPECT_EQ(number("SleepBrightness"), 75);
-        EXPECT_FALSE(flag("ColorChangesPaused"));
-        // Effects, screens and inversion stay as they were.
-        EXPECT_TRUE(flag("UseColorEffects"));
-        EXPECT_EQ(number("ColorEffect"), 5);
-        EXPECT_TRUE(flag("UseOverlayScreen"));
-        EXPECT_TRUE(flag("UseLightnessScreen"));
-        EXPECT_TRUE(flag("UseInvertedColors"));
-        EXPECT_FALSE(window->fade_state(SWITCH).active);
-        TearDown();
-        SetUp();
     }
 }
 
 TEST_F(Types, AChosenTypeFadesInFortyStepsFromWhereTheDisplayStands)
 {
-    start();
-    finish_fade(RETURN, &MainWindow::return_colors_timeout);
-    factory.calls.clear();
-
+    start_settled();
     window->ovra_type_changed(6);
     ASSERT_TRUE(window->fade_state(RETURN).active);
     EXPECT_TRUE(writes().empty()) << "the fade writes, from its timer";
     EXPECT_EQ(finish_fade(RETURN, &MainWindow::return_colors_timeout), 41);
-    const auto w = writes();
-    // From 3400 K and 80 % to 6500 K and 75 %: steps of 77.5 K and -0.125 %.
-    ASSERT_GE(w.size(), 40u);
-    EXPECT_EQ(w[0].temperature, 3477);
-    EXPECT_NEAR(w[0].brightness, 0.79875, 1e-5);
-    EXPECT_EQ(w[39].temperature, 6500);
-    EXPECT_NEAR(w[39].brightness, 0.75, 1e-5);
+    // From 3400 K and 80 % to Sunglasses' 6500 K and 75 %.
+    expect_fade(writes(), 40, 3400, 77.5f, 80, -0.125f);
 }
 
 TEST_F(Types, TheStoredTypeFromThePageDoesNothingTheTrayReapplies)
@@ -210,7 +150,7 @@ TEST_F(Types, TheStoredTypeFromThePageDoesNothingTheTrayReapplies)
 
     window->ovra_type_changed_force(6, false);
     EXPECT_EQ(number("NightTemperature"), 2000);
-    EXPECT_TRUE(page.isEmpty());
+    EXPECT_TRUE(told().isEmpty());
 
     window->ovra_type_changed_force(6, true);
     EXPECT_EQ(number("NightTemperature"), 6500);
@@ -221,7 +161,8 @@ TEST_F(Types, TheStoredTypeFromThePageDoesNothingTheTrayReapplies)
 
     window->ovra_type_changed_force(1, false);
     EXPECT_EQ(number("NightTemperature"), 3400);
-    EXPECT_EQ(page, QStringList({"type_ui=6", "type_ui=6", "type_ui=1"}));
+    EXPECT_EQ(told(), QStringList({"set_ovra_type_dropdown_value_ui=6", "set_ovra_type_dropdown_value_ui=6",
+                                   "set_ovra_type_dropdown_value_ui=1"}));
 }
 
 TEST_F(Types, HealthAfterProgrammingSwitchesInversionOff)
@@ -246,7 +187,7 @@ TEST_F(Types, HealthAfterProgrammingSwitchesInversionOff)
 
 using Modes = Types;
 
-TEST_F(Modes, ManualShowsTheNightValuesAtNoon)
+TEST_F(Modes, ChangeModeCyclesManualPausedAutomaticAndTheDisplayFollows)
 {
     store_values["UseManualColorSettings"] = false;
     store_values["UseManualBrightness"] = false;
@@ -261,83 +202,52 @@ TEST_F(Modes, ManualShowsTheNightValuesAtNoon)
     finish_all_fades();
     ASSERT_EQ(writes().back().temperature, 6000) << "noon on the clock curve is day";
 
-    window->ovra_mode_changed(2);
-    EXPECT_TRUE(flag("UseManualColorSettings"));
-    EXPECT_TRUE(flag("UseManualBrightness"));
-    finish_all_fades();
-    EXPECT_EQ(writes().back().temperature, 2700);
-    EXPECT_NEAR(writes().back().brightness, 0.70, 1e-5);
-
-    window->ovra_mode_changed(1);
-    EXPECT_FALSE(flag("UseManualColorSettings"));
-    EXPECT_FALSE(flag("UseManualBrightness"));
-    finish_all_fades();
-    EXPECT_EQ(writes().back().temperature, 6000);
-    EXPECT_NEAR(writes().back().brightness, 0.95, 1e-5);
-    EXPECT_EQ(page, QStringList({"mode_ui=2", "mode_ui=1"}));
+    // Manual holds the night values at noon; Paused keeps the switches and
+    // rests on the saved ramps; Automatic gives the curve back.
+    const struct
+    {
+        int mode;
+        bool manual, paused;
+        int temperature, brightness;
+    } steps[] = {{2, true, false, 2700, 70}, {3, true, true, 0, 0}, {1, false, false, 6000, 95}};
+    for (const auto& step : steps) {
+        SCOPED_TRACE(step.mode);
+        window->change_mode();
+        EXPECT_EQ(number("OvraMode"), step.mode);
+        EXPECT_EQ(flag("UseManualColorSettings"), step.manual);
+        EXPECT_EQ(flag("UseManualBrightness"), step.manual);
+        EXPECT_EQ(flag("OvraPaused"), step.paused);
+        finish_all_fades();
+        if (step.paused) {
+            EXPECT_EQ(factory.calls.back().what, "restore");
+        } else {
+            EXPECT_EQ(writes().back().temperature, step.temperature);
+            EXPECT_NEAR(writes().back().brightness, step.brightness / 100.0, 1e-5);
+        }
+    }
+    EXPECT_EQ(told(), QStringList({"set_ovra_mode_dropdown_value_ui=2", "set_ovra_mode_dropdown_value_ui=3",
+                                   "set_ovra_mode_dropdown_value_ui=1"}));
 }
 
-TEST_F(Modes, PausedFadesToNeutralAndKeepsTheManualSwitches)
-{
-    start();
-    finish_all_fades();
-    factory.calls.clear();
-
-    window->ovra_mode_changed(3);
-    EXPECT_TRUE(flag("OvraPaused"));
-    EXPECT_TRUE(flag("UseManualColorSettings"));
-    ASSERT_TRUE(window->fade_state(RESTORE).active);
-    finish_all_fades();
-    const auto w = writes();
-    ASSERT_FALSE(w.empty());
-    EXPECT_GT(w.back().temperature, 6400);
-    EXPECT_EQ(factory.calls.back().what, "restore");
-
-    // Leaving the pause by mode fades back to the values.
-    window->ovra_mode_changed(2);
-    EXPECT_FALSE(flag("OvraPaused"));
-    finish_all_fades();
-    EXPECT_EQ(writes().back().temperature, 3400);
-}
-
-TEST_F(Modes, ChangeModeCyclesOneTwoThreeOne)
-{
-    store_values["OvraMode"] = 1;
-    start();
-    connect_page();
-    window->change_mode();
-    EXPECT_EQ(number("OvraMode"), 2);
-    window->change_mode();
-    EXPECT_EQ(number("OvraMode"), 3);
-    EXPECT_TRUE(flag("OvraPaused"));
-    window->change_mode();
-    EXPECT_EQ(number("OvraMode"), 1);
-    EXPECT_FALSE(flag("OvraPaused"));
-    EXPECT_EQ(page, QStringList({"mode_ui=2", "mode_ui=3", "mode_ui=1"}));
-}
-
-TEST_F(Modes, ChangeModeFromCustomGoesToAutomatic)
+TEST_F(Modes, CustomCyclesToAutomaticAnUnknownModeStoresOnlyItsNumber)
 {
     store_values["OvraMode"] = 0;
     start();
     window->change_mode();
     EXPECT_EQ(number("OvraMode"), 1);
     EXPECT_FALSE(flag("UseManualColorSettings"));
-}
 
-TEST_F(Modes, AnUnknownModeStoresOnlyItsNumber)
-{
-    start();
+    window->settings["UseManualColorSettings"] = true;
     window->ovra_mode_changed(7);
     EXPECT_EQ(number("OvraMode"), 7);
     EXPECT_TRUE(flag("UseManualColorSettings"));
-    EXPECT_TRUE(flag("UseManualBrightness"));
+    EXPECT_FALSE(flag("UseManualBrightness"));
     EXPECT_FALSE(flag("OvraPaused"));
 
     // The stored mode from the page does nothing.
-    window->settings["UseManualBrightness"] = false;
+    window->settings["UseManualBrightness"] = true;
     window->ovra_mode_changed_force(7, false);
-    EXPECT_FALSE(flag("UseManualBrightness"));
+    EXPECT_TRUE(flag("UseManualBrightness"));
 }
 
 // ---------------------------------------------------------------- views
@@ -353,9 +263,7 @@ TEST_F(AdvancedView, EnteringCopiesTheShadowsAndTellsThePage)
     store_values["ColorChangesPaused"] = true;
     start();
     connect_page();
-    QStringList sliders;
-    QObject::connect(window.get(), &MainWindow::set_night_temperature_slider_value,
-                     [&](int v) { sliders << QString::number(v); });
+    PageLog sliders(window.get(), {"set_night_temperature_slider_value"});
 
     window->use_advanced_settings_changed(true, 0, 0);
     EXPECT_TRUE(flag("AdvancedView"));
@@ -364,15 +272,15 @@ TEST_F(AdvancedView, EnteringCopiesTheShadowsAndTellsThePage)
     EXPECT_EQ(number("NightBrightness"), 55);
     EXPECT_TRUE(flag("UseColorEffects"));
     EXPECT_EQ(number("LightnessScreenXPosition"), 12);
-    EXPECT_EQ(sliders, QStringList({"2300"}));
-    EXPECT_EQ(page, QStringList({"advanced=1"}));
+    EXPECT_EQ(sliders.entries, QStringList({"set_night_temperature_slider_value=2300"}));
+    EXPECT_EQ(told(), QStringList({"set_use_advanced_settings=true"}));
     // The view is written to the store at once.
     EXPECT_TRUE(save_manager->store()->value("AdvancedView").toBool());
 
     // The same view again applies again but does not echo.
     window->use_advanced_settings_changed(true);
-    EXPECT_EQ(sliders.size(), 2);
-    EXPECT_EQ(page, QStringList({"advanced=1"}));
+    EXPECT_EQ(sliders.entries.size(), 2);
+    EXPECT_EQ(told(), QStringList({"set_use_advanced_settings=true"}));
 }
 
 TEST_F(AdvancedView, LeavingReappliesTheTypeAndTheShadowsKeepTheUsersValues)
@@ -395,9 +303,9 @@ TEST_F(AdvancedView, LeavingReappliesTheTypeAndTheShadowsKeepTheUsersValues)
     EXPECT_EQ(number("NightBrightness"), 75);
     EXPECT_EQ(number("AdvancedNightTemperature"), 2300);
     EXPECT_EQ(number("AdvancedNightBrightness"), 55);
-    EXPECT_TRUE(page.contains("type_ui=6"));
-    EXPECT_TRUE(page.contains("mode_ui=2"));
-    EXPECT_EQ(page.last(), "advanced=0");
+    EXPECT_TRUE(told().contains("set_ovra_type_dropdown_value_ui=6"));
+    EXPECT_TRUE(told().contains("set_ovra_mode_dropdown_value_ui=2"));
+    EXPECT_EQ(told().last(), "set_use_advanced_settings=false");
 
     window->use_advanced_settings_changed(true, 0, 0);
     EXPECT_EQ(number("NightTemperature"), 2300);
@@ -426,7 +334,7 @@ TEST_F(TimerType, AChangeStoresPausesForOffAndTellsThePageTwice)
     connect_page();
 
     window->timer_type_changed(2);
-    EXPECT_TRUE(page.isEmpty());
+    EXPECT_TRUE(told().isEmpty());
 
     window->timer_type_changed(1);
     EXPECT_EQ(number("TimerType"), 1);
@@ -435,7 +343,8 @@ TEST_F(TimerType, AChangeStoresPausesForOffAndTellsThePageTwice)
 
     window->timer_type_changed(3);
     EXPECT_FALSE(flag("TimerPaused"));
-    EXPECT_EQ(page, QStringList({"timer_type=1", "strictness=1", "timer_type=3", "strictness=3"}));
+    EXPECT_EQ(told(), QStringList({"set_timer_type_dropdown_value=1", "set_strictness_value=1",
+                                   "set_timer_type_dropdown_value=3", "set_strictness_value=3"}));
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 """Helpers for tests that start the real ovra binary on the test X server."""
 import os
 import shutil
-import signal
 import struct
 import subprocess
 import tempfile
@@ -58,6 +57,53 @@ def make_linear(display=None):
         raise RuntimeError("ovra-ramps linear failed: " + out.stderr)
 
 
+def write_ramps(ramps, display=None):
+    """Writes (red, green, blue) to every CRTC."""
+    text = "%d\n" % len(ramps[0]) + "".join(" ".join(map(str, c)) + "\n" for c in ramps)
+    out = ramps_tool("set", display=display, stdin=text)
+    if out.returncode != 0:
+        raise RuntimeError("ovra-ramps set failed: " + out.stderr)
+
+
+class XServer:
+    """A private Xvfb that a test may kill and bring back on the same number."""
+
+    def __init__(self):
+        read_end, write_end = os.pipe()
+        self.proc = self._spawn("-displayfd", str(write_end), pass_fds=(write_end,))
+        os.close(write_end)
+        with os.fdopen(read_end) as f:
+            self.display = ":" + f.readline().strip()
+        self._wait_ready()
+
+    @staticmethod
+    def _spawn(*args, pass_fds=()):
+        return subprocess.Popen(["Xvfb", *args, "-screen", "0", "1280x800x24", "+extension",
+                                 "RANDR", "-noreset", "-nolisten", "tcp"], pass_fds=pass_fds,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def _wait_ready(self):
+        ready = wait_for(lambda: ramps_tool("count", display=self.display).returncode == 0
+                         or self.proc.poll() is not None)
+        if not ready or self.proc.poll() is not None:
+            raise RuntimeError("Xvfb %s did not start" % self.display)
+        make_linear(self.display)
+
+    def kill(self):
+        """Gone without a word, as a crashed server goes."""
+        self.proc.kill()
+        self.proc.wait()
+
+    def restart(self):
+        self.proc = self._spawn(self.display)
+        self._wait_ready()
+
+    def stop(self):
+        if self.proc.poll() is None:
+            self.proc.terminate()
+            self.proc.wait(timeout=15)
+
+
 # The white points of the default table for the temperatures the tests use,
 # copied from the published table (rows of 100 K: red, green, blue).
 OVRA_ROWS = {
@@ -104,49 +150,40 @@ class OvraProcess:
     """One started ovra, with its output collected in files."""
 
     def __init__(self, home, args=(), env=None, cwd=None):
-        self.home = home
-        self.stdout_path = os.path.join(home, "stdout-%d.txt" % time.monotonic_ns())
-        self.stderr_path = self.stdout_path.replace("stdout", "stderr")
-        self._out = open(self.stdout_path, "w")
-        self._err = open(self.stderr_path, "w")
+        stamp = time.monotonic_ns()
+        self.paths = [os.path.join(home, "%s-%d.txt" % (name, stamp)) for name in ("out", "err")]
+        self.files = [open(path, "w") for path in self.paths]
         self.proc = subprocess.Popen([BINARY, *args], env=env, cwd=cwd or home,
-                                     stdout=self._out, stderr=self._err)
-
-    @property
-    def pid(self):
-        return self.proc.pid
+                                     stdout=self.files[0], stderr=self.files[1])
+        self.pid = self.proc.pid
+        self.send = self.proc.send_signal
 
     def stdout(self):
-        with open(self.stdout_path) as f:
+        with open(self.paths[0]) as f:
             return f.read()
 
     def stderr(self):
-        with open(self.stderr_path) as f:
+        with open(self.paths[1]) as f:
             return f.read()
-
-    def send(self, sig):
-        self.proc.send_signal(sig)
 
     def wait(self, timeout=10):
         try:
             return self.proc.wait(timeout=timeout)
         finally:
-            self._out.close()
-            self._err.close()
+            for f in self.files:
+                f.close()
 
     def alive(self):
         return self.proc.poll() is None
 
     def stop(self):
         if self.alive():
-            self.proc.send_signal(signal.SIGTERM)
+            self.proc.terminate()
             try:
                 self.proc.wait(timeout=15)
             except subprocess.TimeoutExpired:
                 self.proc.kill()
-                self.proc.wait()
-        self._out.close()
-        self._err.close()
+        self.wait()
 
 
 class OvraTestCase(unittest.TestCase):
@@ -175,6 +212,11 @@ class OvraTestCase(unittest.TestCase):
         make_linear()
         shutil.rmtree(self.base, ignore_errors=True)
 
+    def x_server(self):
+        server = XServer()
+        self.addCleanup(server.stop)
+        return server
+
     def config_file(self):
         name = "Ovra-root.conf" if os.getuid() == 0 else "Ovra.conf"
         return os.path.join(self.config, "Morvenik", name)
@@ -186,6 +228,17 @@ class OvraTestCase(unittest.TestCase):
             f.write("[General]\n")
             for key, value in values.items():
                 f.write("%s=%s\n" % (key, value))
+
+    def stored(self):
+        """The settings file as a dict of its keys."""
+        values = {}
+        if os.path.exists(self.config_file()):
+            with open(self.config_file()) as f:
+                for line in f:
+                    if "=" in line:
+                        key, value = line.rstrip("\n").split("=", 1)
+                        values[key] = value
+        return values
 
     def start(self, *args, env=None, cwd=None):
         p = OvraProcess(self.home, args, env or self.env, cwd)

@@ -31,19 +31,6 @@ class TintAndRestore(OvraTestCase):
     def tinted(self):
         return expected_tint(self.original, FIXED_TEMPERATURE, FIXED_BRIGHTNESS)
 
-    def test_start_tints_the_crtc_with_the_table_values(self):
-        self.start()
-        self.wait_for_ramps(self.tinted())
-
-    def test_each_ending_signal_gives_the_ramps_back(self):
-        for sig in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
-            with self.subTest(signal=sig.name):
-                p = self.start()
-                self.wait_for_ramps(self.tinted())
-                p.send(sig)
-                self.assertEqual(p.wait(timeout=15), 0)
-                self.assertEqual(read_ramps(), self.original)
-
     def test_closing_the_window_without_tray_quits_and_restores(self):
         p = self.start("--show_ui")
         self.wait_for_ramps(self.tinted())
@@ -118,18 +105,40 @@ class TwoInstancesOnOneDisplay(OvraTestCase):
 
 class SingleInstance(OvraTestCase):
 
-    def launch(self, *args):
-        return subprocess.run([BINARY, *args], env=self.env, cwd=self.home,
+    def launch(self, *args, env=None):
+        return subprocess.run([BINARY, *args], env=env or self.env, cwd=self.home,
                               capture_output=True, text=True, timeout=20)
 
-    def test_second_launch_hands_its_words_over(self):
-        first = self.start()
-        self.wait_for_tint()
-        second = self.launch("pause")
-        self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: "pause\n" in first.stdout(), timeout=15),
-                        "first instance did not print the words: " + first.stdout())
-        self.assertTrue(first.alive())
+    def leave_a_dead_socket(self):
+        # A socket file whose owner died: nobody listens behind it.
+        dead = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
+        dead.bind(os.path.join(self.runtime, "MorvenikOvra"))
+        dead.close()
+
+    def test_a_second_launch_hands_its_words_to_the_running_one(self):
+        no_runtime = {k: v for k, v in self.env.items() if k != "XDG_RUNTIME_DIR"}
+        cases = (
+            ("words", self.env, None, "pause", "pause"),
+            ("link form", self.env, None, "ovra:some%20words-here", "some words here"),
+            ("stale socket", self.env, self.leave_a_dead_socket, "hello", "hello"),
+            # Then the socket is per user in the temp dir.
+            ("no runtime directory", no_runtime, None, "hello", "hello"),
+        )
+        for name, env, prepare, word, printed in cases:
+            with self.subTest(name):
+                if prepare:
+                    prepare()
+                first = self.start(env=env)
+                self.wait_for_tint()
+                second = self.launch(word, env=env)
+                self.assertEqual(second.returncode, 0)
+                self.assertIn(printed + ": first_argument", second.stdout)
+                self.assertTrue(wait_for(lambda: printed + "\n" in first.stdout(), timeout=15),
+                                "the running one did not print the words: " + first.stdout())
+                self.assertTrue(first.alive())
+                if env is no_runtime:
+                    self.assertTrue(os.path.exists("/tmp/MorvenikOvra-%d" % os.getuid()))
+                first.stop()
 
     def visible_windows(self, p):
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(p.pid),
@@ -144,39 +153,6 @@ class SingleInstance(OvraTestCase):
         self.assertTrue(wait_for(lambda: self.visible_windows(first), timeout=15),
                         "the running instance did not open its window")
         self.assertTrue(first.alive())
-
-    def test_link_form_of_the_first_word_is_rewritten(self):
-        first = self.start()
-        self.wait_for_tint()
-        second = self.launch("ovra:some%20words-here")
-        self.assertEqual(second.returncode, 0)
-        self.assertIn("some words here: first_argument", second.stdout)
-        self.assertTrue(wait_for(lambda: "some words here\n" in first.stdout(), timeout=15))
-
-    def test_stale_socket_does_not_stop_a_new_instance(self):
-        # A socket file whose owner died: nobody listens behind it.
-        path = os.path.join(self.runtime, "MorvenikOvra")
-        dead = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
-        dead.bind(path)
-        dead.close()
-        self.assertTrue(os.path.exists(path))
-        p = self.start()
-        self.wait_for_tint()
-        self.assertTrue(p.alive())
-        second = self.launch("hello")
-        self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: "hello\n" in p.stdout(), timeout=15))
-
-    def test_without_a_runtime_directory_the_socket_is_per_user_in_tmp(self):
-        env = {k: v for k, v in self.env.items() if k != "XDG_RUNTIME_DIR"}
-        first = self.start(env=env)
-        self.wait_for_tint()
-        socket_path = "/tmp/MorvenikOvra-%d" % os.getuid()
-        self.assertTrue(wait_for(lambda: os.path.exists(socket_path), timeout=10))
-        second = subprocess.run([BINARY, "hello"], env=env, cwd=self.home,
-                                capture_output=True, text=True, timeout=20)
-        self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: "hello\n" in first.stdout(), timeout=15))
 
     def test_ten_launches_at_once_leave_one_instance(self):
         procs = [self.start() for _ in range(10)]

@@ -7,8 +7,7 @@ import socket
 import threading
 import time
 
-from harness import (OvraTestCase, expected_tint, make_linear, ramps_close, read_ramps,
-                     wait_for)
+from harness import OvraTestCase, expected_tint, make_linear, ramps_close, read_ramps, wait_for
 
 # Manual values hold the night values at any hour, so the display shows a
 # known tint whatever the curve.
@@ -26,11 +25,9 @@ PROXY_VARIABLES = ("http_proxy", "https_proxy", "all_proxy", "no_proxy",
 
 class FakeLocationService:
     """An HTTP server on 127.0.0.1 that answers GET /json/ with a fixed body,
-    or, when silent, holds the connection open without a word."""
+    or, with no body, holds the connection open without a word."""
 
-    def __init__(self, body=None, silent=False):
-        self.body = body
-        self.silent = silent
+    def __init__(self, body=None):
         self.paths = []
         self.release = threading.Event()
         service = self
@@ -38,27 +35,22 @@ class FakeLocationService:
         class Handler(http.server.BaseHTTPRequestHandler):
             def do_GET(self):
                 service.paths.append(self.path)
-                if service.silent:
+                if body is None:
                     service.release.wait(30)
                     return
-                data = service.body.encode()
                 self.send_response(200)
                 self.send_header("Content-Type", "application/json")
-                self.send_header("Content-Length", str(len(data)))
+                self.send_header("Content-Length", str(len(body)))
                 self.end_headers()
-                self.wfile.write(data)
+                self.wfile.write(body.encode())
 
             def log_message(self, *args):
                 pass
 
         self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
         self.server.daemon_threads = True
-        self.thread = threading.Thread(target=self.server.serve_forever, daemon=True)
-        self.thread.start()
-
-    @property
-    def base(self):
-        return "http://127.0.0.1:%d" % self.server.server_address[1]
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+        self.base = "http://127.0.0.1:%d" % self.server.server_address[1]
 
     def stop(self):
         self.release.set()
@@ -69,8 +61,7 @@ class FakeLocationService:
 def closed_port_base():
     with socket.socket() as s:
         s.bind(("127.0.0.1", 0))
-        port = s.getsockname()[1]
-    return "http://127.0.0.1:%d" % port
+        return "http://127.0.0.1:%d" % s.getsockname()[1]
 
 
 class LocationTestCase(OvraTestCase):
@@ -79,48 +70,29 @@ class LocationTestCase(OvraTestCase):
         super().setUp()
         for name in PROXY_VARIABLES:
             self.env.pop(name, None)
-        self.services = []
 
-    def tearDown(self):
-        super().tearDown()
-        for service in self.services:
-            service.stop()
-
-    def service(self, body=None, silent=False):
-        service = FakeLocationService(body, silent)
-        self.services.append(service)
+    def service(self, body=None):
+        service = FakeLocationService(body)
+        self.addCleanup(service.stop)
         return service
 
     def start_with_service(self, base, cwd=None):
-        env = dict(self.env, OVRA_GEOLOCATION_URL=base)
-        return self.start(env=env, cwd=cwd)
+        return self.start(env=dict(self.env, OVRA_GEOLOCATION_URL=base), cwd=cwd)
 
-    def stored(self):
-        """The settings file as a dict of [General] keys."""
-        values = {}
+    def location(self):
+        stored = self.stored()
         try:
-            with open(self.config_file()) as f:
-                for line in f:
-                    if "=" in line:
-                        key, value = line.rstrip("\n").split("=", 1)
-                        values[key] = value
-        except FileNotFoundError:
-            pass
-        return values
-
-    def stored_float(self, key):
-        value = self.stored().get(key)
-        return None if value is None else float(value)
+            return float(stored["Latitude"]), float(stored["Longitude"])
+        except (KeyError, ValueError):
+            return None
 
     def wait_for_location(self, latitude, longitude, timeout=10):
         def reached():
-            lat, lon = self.stored_float("Latitude"), self.stored_float("Longitude")
-            return (lat is not None and lon is not None
-                    and abs(lat - latitude) < 1e-4 and abs(lon - longitude) < 1e-4)
+            got = self.location()
+            return got and abs(got[0] - latitude) < 1e-4 and abs(got[1] - longitude) < 1e-4
         if not wait_for(reached, timeout):
-            self.fail("the settings file never held %s, %s; it holds %s, %s"
-                      % (latitude, longitude, self.stored().get("Latitude"),
-                         self.stored().get("Longitude")))
+            self.fail("the settings file never held %s, %s; it holds %s"
+                      % (latitude, longitude, self.location()))
 
     def assert_keeps_ticking(self, process):
         """The tick writes every CRTC each second: ramps that someone else
@@ -134,67 +106,41 @@ class LocationTestCase(OvraTestCase):
 
 class AutomaticLocation(LocationTestCase):
 
-    def test_reply_coordinates_reach_the_settings_file(self):
-        service = self.service('{"ip": "192.0.2.7", "country_code": "BG", "country_name": "Bulgaria",'
-                               ' "city": "Sofia", "time_zone": "Europe/Sofia",'
-                               ' "latitude": 42.6977, "longitude": 23.3219}')
-        self.write_config(TINT)
-        p = self.start_with_service(service.base)
-        self.wait_for_location(42.6977, 23.3219)
-        self.assertIn("/json/", service.paths)
-        self.assertTrue(p.alive())
+    def test_each_reply_changes_what_it_names(self):
+        replies = (
+            (TINT, '{"ip": "192.0.2.7", "country_code": "BG", "city": "Sofia",'
+                   ' "time_zone": "Europe/Sofia", "latitude": 42.6977, "longitude": 23.3219}',
+             (42.6977, 23.3219)),
+            # The stored longitude stays.
+            (STORED, '{"latitude": -33.8688}', (-33.8688, 20.25)),
+        )
+        for store, body, (latitude, longitude) in replies:
+            with self.subTest(body=body):
+                self.write_config(store)
+                service = self.service(body)
+                p = self.start_with_service(service.base)
+                self.wait_for_location(latitude, longitude)
+                self.assertIn("/json/", service.paths)
+                p.stop()
 
-    def test_reply_with_latitude_only_changes_only_the_latitude(self):
-        self.write_config(STORED)
-        service = self.service('{"latitude": -33.8688}')
-        self.start_with_service(service.base)
-        self.wait_for_location(-33.8688, 20.25)
-
-    def test_latitude_of_minus_9999_is_ignored(self):
-        self.write_config(STORED)
-        service = self.service('{"latitude": -9999.0, "longitude": 151.2093}')
-        self.start_with_service(service.base)
-        self.wait_for_location(10.5, 151.2093)
-
-    def test_garbage_reply_keeps_the_stored_location(self):
-        self.write_config(STORED)
-        service = self.service("<html><body>502 Bad Gateway</body></html>")
-        p = self.start_with_service(service.base)
-        self.assertTrue(wait_for(lambda: service.paths, timeout=10), "no request reached the service")
-        self.assert_keeps_ticking(p)
-        self.wait_for_location(10.5, 20.25)
-
-    def test_dead_service_changes_nothing_and_the_tick_goes_on(self):
-        self.write_config(STORED)
-        p = self.start_with_service(closed_port_base())
-        self.assert_keeps_ticking(p)
-        time.sleep(1)
-        self.wait_for_location(10.5, 20.25, timeout=1)
-
-    def test_silent_service_changes_nothing_and_never_blocks_the_tick(self):
-        self.write_config(STORED)
-        service = self.service(silent=True)
-        p = self.start_with_service(service.base)
-        self.assertTrue(wait_for(lambda: service.paths, timeout=10), "no request reached the service")
-        # The request hangs; the tick must not.
-        self.assert_keeps_ticking(p)
-        # After the request gives up, nothing has changed either.
-        time.sleep(11)
-        self.assertTrue(p.alive())
-        self.wait_for_location(10.5, 20.25, timeout=1)
-        self.assert_keeps_ticking(p)
-
-    def test_manual_location_sends_no_request(self):
-        self.write_config(dict(STORED, UseManualLocation="true"))
-        service = self.service('{"latitude": 42.6977, "longitude": 23.3219}')
-        p = self.start_with_service(service.base)
-        self.wait_for_tint()
-        time.sleep(2)
-        self.assertEqual(service.paths, [])
-        self.assertTrue(p.alive())
-        p.send(signal.SIGTERM)
-        self.assertEqual(p.wait(timeout=15), 0)
-        self.wait_for_location(10.5, 20.25, timeout=1)
+    def test_a_failing_service_changes_nothing_and_never_blocks_the_tick(self):
+        garbage = self.service("<html><body>502 Bad Gateway</body></html>")
+        silent = self.service()
+        for name, base, service in (("garbage", garbage.base, garbage),
+                                    ("closed port", closed_port_base(), None),
+                                    ("silent", silent.base, silent)):
+            with self.subTest(service=name):
+                self.write_config(STORED)
+                p = self.start_with_service(base)
+                if service:
+                    self.assertTrue(wait_for(lambda: service.paths, 10), "no request reached it")
+                self.assert_keeps_ticking(p)
+                if service is silent:
+                    # Past the time the request takes to give up.
+                    time.sleep(11)
+                    self.assert_keeps_ticking(p)
+                self.wait_for_location(10.5, 20.25, timeout=1)
+                p.stop()
 
 
 # Night values by the hour: every hour of the day has its own pair, so that
@@ -220,12 +166,14 @@ class CurveFiles(LocationTestCase):
             for hour in range(24):
                 f.write("%d %d %d\n" % (hour, hour + 1, night_temperature(hour)))
 
-    def test_curve_files_in_the_working_directory_set_the_night_values_by_the_hour(self):
+    def work_folder(self):
         work = os.path.join(self.base, "work")
         os.makedirs(work)
+        return work
+
+    def test_curve_files_in_the_working_directory_set_the_night_values_by_the_hour(self):
+        work = self.work_folder()
         self.write_curve_files(work)
-        # With both manual switches on the night values hold all day, so the
-        # display shows what the files give for this hour.
         self.write_config(dict(TINT, NightTemperature=4500, NightBrightness=90))
         p = self.start_with_service(closed_port_base(), cwd=work)
         self.wait_for_tint()
@@ -237,23 +185,28 @@ class CurveFiles(LocationTestCase):
         self.assertTrue(wait_for(shows_this_hour, timeout=10),
                         "the display does not show the night values of this hour")
 
-        hour = time.localtime().tm_hour
+        hours = {time.localtime().tm_hour}
         p.send(signal.SIGTERM)
         self.assertEqual(p.wait(timeout=15), 0)
-        after = time.localtime().tm_hour
+        hours.add(time.localtime().tm_hour)
         stored = self.stored()
-        self.assertIn(int(stored.get("NightBrightness", -1)),
-                      {night_brightness(hour), night_brightness(after)})
-        self.assertIn(int(stored.get("NightTemperature", -1)),
-                      {night_temperature(hour), night_temperature(after)})
+        self.assertIn(int(stored["NightBrightness"]), {night_brightness(h) for h in hours})
+        self.assertIn(int(stored["NightTemperature"]), {night_temperature(h) for h in hours})
 
-    def test_curve_files_beside_the_home_are_not_read(self):
-        work = os.path.join(self.base, "work")
-        os.makedirs(work)
-        self.write_curve_files(self.home)
+    def test_a_cut_brightness_file_is_refused_with_one_line(self):
+        work = self.work_folder()
+        # Read as it stands, the cut line would be 0 % all day, held at 5 %.
+        with open(os.path.join(work, "brightnessConfig.txt"), "w") as f:
+            f.write("0 24 60\n0 24")
         self.write_config(TINT)
         p = self.start_with_service(closed_port_base(), cwd=work)
-        self.wait_for_ramps(expected_tint(self.original, 3400, 80))
+        tinted = expected_tint(self.original, 3400, 80)
+        self.wait_for_ramps(tinted)
+        time.sleep(1.5)  # the file is looked at every second
+        self.assertTrue(ramps_close(read_ramps(), tinted), "the curve file took over")
         p.send(signal.SIGTERM)
         self.assertEqual(p.wait(timeout=15), 0)
-        self.assertEqual(int(self.stored().get("NightBrightness", -1)), 80)
+        lines = [l for l in p.stderr().splitlines() if l.strip()]
+        self.assertEqual(len(lines), 1, p.stderr())
+        self.assertIn("brightnessConfig.txt", lines[0])
+        self.assertEqual(self.stored()["NightBrightness"], "80")

@@ -6,11 +6,14 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QMetaMethod>
 #include <QSettings>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -73,6 +76,51 @@ public:
     std::vector<Call> calls;
 };
 
+// What the page is told: the controller's set_* signals named (all of them
+// when none are), in the order they come, as "name=value" with a second
+// value after ':'. Connected by index as QSignalSpy does, so one object
+// hears signals of any signature.
+class PageLog : public QObject
+{
+public:
+    explicit PageLog(QObject* window, const QStringList& only = {})
+    {
+        const QMetaObject* meta = window->metaObject();
+        for (int i = 0; i < meta->methodCount(); ++i) {
+            const QMetaMethod m = meta->method(i);
+            const QString name = QString::fromLatin1(m.name());
+            if (m.methodType() != QMetaMethod::Signal || !name.startsWith("set_")
+                || !(only.isEmpty() || only.contains(name)))
+                continue;
+            QMetaObject::connect(window, i, this,
+                                 QObject::staticMetaObject.methodCount() + int(heard.size()),
+                                 Qt::DirectConnection);
+            heard.push_back(m);
+        }
+    }
+
+    int qt_metacall(QMetaObject::Call call, int id, void** args) override
+    {
+        id = QObject::qt_metacall(call, id, args);
+        if (id < 0 || call != QMetaObject::InvokeMetaMethod)
+            return id;
+        const QMetaMethod& m = heard[size_t(id)];
+        QStringList values;
+        for (int p = 0; p < m.parameterCount(); ++p)
+            values << QVariant(m.parameterMetaType(p), args[p + 1]).toString();
+        entries << QString::fromLatin1(m.name()) + '=' + values.join(':');
+        if (on_entry)
+            on_entry();
+        return -1;
+    }
+
+    QStringList entries;
+    std::function<void()> on_entry;
+
+private:
+    std::vector<QMetaMethod> heard;
+};
+
 // The four fades, as MainWindow::fade_state numbers them.
 const int RESTORE = 0;
 const int RETURN = 1;
@@ -133,6 +181,14 @@ protected:
         window = std::make_unique<MainWindow>(nullptr);
     }
 
+    // Started, the first fade over and the backend's log empty.
+    void start_settled()
+    {
+        start();
+        finish_all_fades();
+        factory.calls.clear();
+    }
+
     std::vector<Call> writes() const
     {
         std::vector<Call> result;
@@ -160,6 +216,21 @@ protected:
         finish_fade(SWITCH_RETURN, &MainWindow::switch_state_return_timeout);
         finish_fade(RESTORE, &MainWindow::restore_colors_timeout);
         finish_fade(RETURN, &MainWindow::return_colors_timeout);
+    }
+
+    // The first `count` writes are a fade's steps from (temperature,
+    // brightness %) by the steps given, summed in float as the fade sums
+    // them, the temperature cut to whole kelvin.
+    static void expect_fade(const std::vector<Call>& w, size_t count, float temperature,
+                            float temperature_step, float brightness, float brightness_step)
+    {
+        ASSERT_GE(w.size(), count);
+        for (size_t k = 0; k < count; ++k) {
+            temperature += temperature_step;
+            brightness += brightness_step;
+            EXPECT_EQ(w[k].temperature, static_cast<int>(temperature)) << "step " << k;
+            EXPECT_NEAR(w[k].brightness, brightness / 100.0f, 1e-5) << "step " << k;
+        }
     }
 
     // A map value, read without adding the key.
