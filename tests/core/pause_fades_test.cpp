@@ -152,8 +152,6 @@ TEST_F(PauseFades, MoveToTakesFortyStepsToTheGivenValues)
     EXPECT_FALSE(window->fade_state(RETURN).active);
 }
 
-}
-
 TEST_F(PauseFades, DayIsSixToEighteenOnTheClock)
 {
     start_settled();
