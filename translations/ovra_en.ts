@@ -1518,6 +1518,10 @@
 <context>
     <name>MainWindow</name>
     <message>
+        <source>Location unknown</source>
+        <translation>Location unknown</translation>
+    </message>
+    <message>
         <source>Day start time</source>
         <translation>Day start time</translation>
     </message>

@@ -272,6 +272,7 @@ signals:
 
 private:
     void setup_network_config_manager();
+    void show_known_location();
     void setup_system_proxy();
     void process_curve_files();
 

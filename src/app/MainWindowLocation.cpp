@@ -37,14 +37,22 @@ void MainWindow::setup_system_proxy()
 
 void MainWindow::get_geolocation_data()
 {
-    if (!use_manual_location(settings)) {
-        if (is_connected_to_internet()) {
-            GeolocationRequest::send(network_manager);
-            emit find_geolocation();
-        }
+    if (!use_manual_location(settings) && is_connected_to_internet()) {
+        GeolocationRequest::send(network_manager);
+        emit find_geolocation();
         return;
     }
-    emit set_geolocation_string(LocationParser::format_location(latitude, longitude));
+    show_known_location();
+}
+
+// What the page shows when no place came back: the coordinates in use, or
+// that there are none.
+void MainWindow::show_known_location()
+{
+    if (latitude == -1.0 || longitude == -1.0)
+        emit set_geolocation_string(tr("Location unknown"));
+    else
+        emit set_geolocation_string(LocationParser::format_location(latitude, longitude));
 }
 
 void MainWindow::update_location(QNetworkReply* reply)
@@ -54,10 +62,24 @@ void MainWindow::update_location(QNetworkReply* reply)
         return;
     // A request that failed or timed out says nothing about where we are;
     // the stored pair stays, and with it the choice of curve.
-    if (reply->error() != QNetworkReply::NoError)
+    if (reply->error() != QNetworkReply::NoError) {
+        show_known_location();
         return;
-    LocationParser::read_location(reply->readAll(), &latitude, &longitude);
+    }
+    const QByteArray body = reply->readAll();
+    if (!LocationParser::read_location(body, &latitude, &longitude)) {
+        show_known_location();
+        return;
+    }
     save_location_data(latitude, longitude);
+    const QString place = LocationParser::place_name(body);
+    if (place.isEmpty())
+        show_known_location();
+    else
+        emit set_geolocation_string(place);
+    QString country_name, country_code;
+    LocationParser::country(body, &country_name, &country_code);
+    localize_ovra(country_name, country_code);
 }
 
 void MainWindow::save_location_data(float latitude_value, float longitude_value)

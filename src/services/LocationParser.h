@@ -18,6 +18,13 @@ public:
     // JSON object.
     static bool read_location(const QByteArray& body, double* latitude, double* longitude);
 
+    // The place the reply names, as the settings page shows it: "city,
+    // country", or else the city of the time zone with the country, or
+    // else the time zone with the country; empty when it names none.
+    static QString place_name(const QByteArray& body);
+    // The country's name and code the reply names, for choosing a language.
+    static void country(const QByteArray& body, QString* name, QString* code);
+
     // Six significant digits: 42.69771 shows as "42.6977".
     static QString format_coordinate(double value);
     // "latitude, longitude", each as format_coordinate gives it.

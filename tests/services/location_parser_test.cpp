@@ -53,4 +53,20 @@ TEST(LocationParser, CoordinatesKeepSixSignificantDigits)
     EXPECT_EQ(LocationParser::format_location(-33.8688, 151.2093), "-33.8688, 151.209");
 }
 
+// The page's label: the city and country, or what the time zone says of the
+// place, or nothing (the page then shows the coordinates).
+TEST(LocationParser, PlaceNameFallsBackThroughTheTimeZone)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {R"({"city":"Sofia","country_name":"Bulgaria","time_zone":"Europe/Sofia"})", "Sofia, Bulgaria"},
+        {R"({"city":"","country_name":"United States","time_zone":"America/New_York"})", "New York, United States"},
+        {R"({"country_name":"Iceland","time_zone":"UTC"})", "UTC, Iceland"},
+        {R"({"city":"Lagos"})", "Lagos"},
+        {R"({"latitude":1,"longitude":2})", ""},
+        {"not json", ""},
+    };
+    for (const auto& [body, label] : cases)
+        EXPECT_EQ(LocationParser::place_name(body), QString::fromUtf8(label)) << body;
+}
+
 }
