@@ -38,6 +38,7 @@ LinuxGamma::~LinuxGamma()
 
 void LinuxGamma::release_crash_file()
 {
+    close_crash_file();
     if (owns_crash_file)
         RampCrashFile(QString::fromStdString(crash_path)).remove();
     owns_crash_file = false;
@@ -283,11 +284,8 @@ void LinuxGamma::take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept)
     }
 }
 
-void LinuxGamma::keep_ramps_for_recovery()
+std::vector<KeptCrtcRamps> LinuxGamma::kept_ramps() const
 {
-    // The file belongs to whoever holds the lock.
-    if (owner_lock_fd < 0)
-        return;
     std::vector<KeptCrtcRamps> kept(state->crtc_count);
     for (unsigned int i = 0; i < state->crtc_count; ++i) {
         kept[i].crtc = state->crtcs[i].crtc;
@@ -295,12 +293,30 @@ void LinuxGamma::keep_ramps_for_recovery()
         kept[i].ramps.assign(state->crtcs[i].saved_ramps, state->crtcs[i].saved_ramps + 3 * state->crtcs[i].ramp_size);
         kept[i].last_written = state->crtcs[i].last_written;
     }
-    if (RampCrashFile(QString::fromStdString(crash_path)).write(kept)) {
+    return kept;
+}
+
+void LinuxGamma::keep_ramps_for_recovery()
+{
+    // The file belongs to whoever holds the lock.
+    if (owner_lock_fd < 0)
+        return;
+    close_crash_file();
+    if (RampCrashFile(QString::fromStdString(crash_path)).write(kept_ramps())) {
         owns_crash_file = true;
         last_written_moved = false;
+        // Kept open for the fingerprints, which follow every change of tint.
+        crash_fd = open(crash_path.c_str(), O_WRONLY | O_CLOEXEC);
     } else {
         fprintf(stderr, "Unable to keep the original ramps in %s\n", crash_path.c_str());
     }
+}
+
+void LinuxGamma::close_crash_file()
+{
+    if (crash_fd >= 0)
+        close(crash_fd);
+    crash_fd = -1;
 }
 
 int LinuxGamma::get_screen_count()
@@ -335,7 +351,11 @@ int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uin
 // second the same ramps are written again, and that needs no file.
 void LinuxGamma::keep_last_written()
 {
-    if (last_written_moved && owns_crash_file)
+    if (!last_written_moved || !owns_crash_file)
+        return;
+    if (crash_fd >= 0 && RampCrashFile::write_in_place(crash_fd, kept_ramps()))
+        last_written_moved = false;
+    else
         keep_ramps_for_recovery();
 }
 

@@ -95,6 +95,8 @@ private:
     void keep_last_written();
     void recover_after_crash();
     void keep_ramps_for_recovery();
+    std::vector<KeptCrtcRamps> kept_ramps() const;
+    void close_crash_file();
     bool same_crtcs(const std::vector<KeptCrtcRamps>& kept) const;
     void take_saved_ramps_from(const std::vector<KeptCrtcRamps>& kept);
     int write_temperature(const ColorSettings* settings, const std::vector<int>& ignored);
@@ -109,4 +111,5 @@ private:
     std::string crash_path;
     bool owns_crash_file = false;
     bool last_written_moved = false;
+    int crash_fd = -1;
 };

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <cstring>
+#include <unistd.h>
 
 namespace {
 
@@ -112,7 +113,7 @@ uint64_t RampCrashFile::fingerprint(const uint16_t* block, unsigned int size)
     return hash;
 }
 
-bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
+QByteArray RampCrashFile::encode(const std::vector<KeptCrtcRamps>& crtcs)
 {
     QByteArray out;
     out.append(MAGIC, sizeof(MAGIC));
@@ -126,12 +127,19 @@ bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
     }
     for (const KeptCrtcRamps& crtc : crtcs) {
         if (crtc.ramps.size() != 3 * static_cast<size_t>(crtc.ramp_size))
-            return false;
+            return QByteArray();
         for (uint16_t value : crtc.ramps)
             put_u16(out, value);
     }
     put_u32(out, fnv1a(out.constData(), out.size()));
+    return out;
+}
 
+bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
+{
+    const QByteArray out = encode(crtcs);
+    if (out.isEmpty())
+        return false;
     QSaveFile file(file_path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
@@ -139,6 +147,12 @@ bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
     if (file.write(out) != out.size())
         return false;
     return file.commit();
+}
+
+bool RampCrashFile::write_in_place(int fd, const std::vector<KeptCrtcRamps>& crtcs)
+{
+    const QByteArray out = encode(crtcs);
+    return !out.isEmpty() && ::pwrite(fd, out.constData(), out.size(), 0) == out.size();
 }
 
 RampCrashFile::LoadResult RampCrashFile::load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const

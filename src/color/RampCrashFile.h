@@ -36,7 +36,13 @@ public:
 
     // Temp file and rename, so a reader never sees half a file.
     bool write(const std::vector<KeptCrtcRamps>& crtcs) const;
+    // The same contents over the file open on `fd`, in place: for the
+    // fingerprints, which move every second while a transition runs. It has
+    // the same length; a write torn by a kill shows as a bad checksum, and
+    // the file is then only ignored.
+    static bool write_in_place(int fd, const std::vector<KeptCrtcRamps>& crtcs);
     // Invalid comes with a short reason (bad magic, truncated, ...).
+    static QByteArray encode(const std::vector<KeptCrtcRamps>& crtcs);
     LoadResult load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const;
     void remove() const;
 
