@@ -5,6 +5,8 @@ import test from "node:test";
 import assert from "node:assert/strict";
 import { open_browser, open_page, screenshot } from "./lib/browser.mjs";
 import { start_ovra, write_config, read_config, read_ramps, wait_for } from "./lib/ovra.mjs";
+import { start_static_server } from "./lib/static_server.mjs";
+import { SOURCE_DIR } from "./lib/browser.mjs";
 
 const browser = await open_browser();
 test.after(() => browser.close());
@@ -93,4 +95,36 @@ test("double scale doubles the page and the window", async () => {
     assert.deepEqual(size, [990, 950]);
     await screenshot(page, "with-ovra-basic-2x");
   });
+});
+
+// What the bridge refuses, tried from a real browser: a page of another
+// origin on this machine, and the program's own origin without its token.
+test("requests and sockets without the token or from elsewhere are refused", async () => {
+  const foreign = await start_static_server(SOURCE_DIR);
+  await with_ovra({}, async ({ page }, ovra) => {
+    const { origin, pathname } = new URL(ovra.address);
+    const token = pathname.split("/")[1];
+    const wrong = token.replace(/.$/, (c) => (c === "0" ? "1" : "0"));
+    const socket_opens = (p, url) => p.evaluate((address) => new Promise((resolve) => {
+      const socket = new WebSocket(address);
+      socket.onopen = () => { socket.close(); resolve(true); };
+      socket.onerror = () => resolve(false);
+    }), url);
+    const channel = (t) => `${origin.replace("http", "ws")}/${t}/channel/main`;
+
+    assert.equal(await socket_opens(page, channel(token)), true, "the page's own road is open");
+    assert.equal(await socket_opens(page, channel(wrong)), false);
+    assert.equal(await socket_opens(page, `${origin.replace("http", "ws")}/channel/main`), false);
+    for (const path of [`/${wrong}/main_screen.html`, "/main_screen.html", `/${token}/../main_screen.html`]) {
+      const status = await page.evaluate((url) => fetch(url).then((r) => r.status), origin + path);
+      assert.notEqual(status, 200, path);
+    }
+
+    const other = await browser.context.newPage();
+    await other.goto(foreign.base + "main_screen.html");
+    assert.equal(await socket_opens(other, channel(token)), false, "a foreign origin is refused");
+    await other.close();
+    assert.match(ovra.stderr(), /origin/i);
+  });
+  foreign.server.close();
 });

@@ -80,6 +80,9 @@ export async function start_ovra() {
   return {
     child,
     address,
+    stderr() {
+      return errors;
+    },
     page_url() {
       const url = new URL(address);
       if (url.pathname.endsWith("/")) {
