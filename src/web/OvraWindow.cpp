@@ -22,9 +22,16 @@ PageWindows* OvraWindow::windows() const
 
 bool OvraWindow::open_page(const WindowSpec& spec, ShowState state)
 {
+    last_spec = spec;
+    last_state = state;
     loaded = false;
     visible = state != ShowState::Hidden;
     return windows()->open(this, spec, state);
+}
+
+bool OvraWindow::reopen_page()
+{
+    return open_page(last_spec, last_state);
 }
 
 bool OvraWindow::is_page_open() const
@@ -34,12 +41,14 @@ bool OvraWindow::is_page_open() const
 
 void OvraWindow::show_page(ShowState state, quint32 user_time)
 {
+    last_state = state;
     visible = state != ShowState::Hidden;
     windows()->host()->show(name, state, user_time);
 }
 
 void OvraWindow::hide_page()
 {
+    last_state = ShowState::Hidden;
     visible = false;
     windows()->host()->hide(name);
 }

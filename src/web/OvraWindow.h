@@ -48,6 +48,13 @@ public:
     virtual void page_state_changed(ShowState state);
     // The window is gone: closed, or the host died.
     virtual void page_gone();
+    // Windows that the program's state says exist (a running rest, an
+    // overlay) come back after the host died; the settings window waits to
+    // be asked for again.
+    virtual bool reopens_after_host_died() const { return false; }
+    // Opens the window again as it was last opened.
+    bool reopen_page();
+
     // A page connected to this object over the channel: the host's, or a
     // browser's.
     virtual void page_connected(bool in_host) { Q_UNUSED(in_host); }
@@ -66,4 +73,6 @@ private:
     QString page;
     bool loaded = false;
     bool visible = false;
+    WindowSpec last_spec;
+    ShowState last_state = ShowState::Hidden;
 };

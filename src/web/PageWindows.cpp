@@ -1,6 +1,7 @@
 #include "web/PageWindows.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 #include <QUrl>
 
 #include "web/BridgeServer.h"
@@ -67,6 +68,19 @@ void PageWindows::connect_host()
         if (OvraWindow* w = registry.value(id))
             w->page_gone();
     });
+    // A host that dies at once again is not started again and again: the
+    // windows that must exist come back a few seconds after each death.
+    connect(web_host, &WebHost::host_died, this, [this] {
+        QTimer::singleShot(REOPEN_DELAY_MSECS, this, &PageWindows::reopen_lost_windows);
+    });
+}
+
+void PageWindows::reopen_lost_windows()
+{
+    for (OvraWindow* window : registry) {
+        if (window->reopens_after_host_died() && !window->is_page_open())
+            window->reopen_page();
+    }
 }
 
 BridgeServer* PageWindows::host_bridge()

@@ -45,6 +45,8 @@ private:
     BridgeServer* host_bridge();
     void connect_host();
     void route_client(const QString& window, bool in_host);
+    void reopen_lost_windows();
+    static const int REOPEN_DELAY_MSECS = 3000;
 
     WebHost* web_host = nullptr;
     BridgeServer* hosted = nullptr;
