@@ -11,7 +11,7 @@
 void MainWindow::update_ovra_status()
 {
     if (tray_icon)
-        tray_icon->refresh_status();
+        tray_icon->update_tray_icon(false);
 }
 
 void MainWindow::refresh_pause_dependents()

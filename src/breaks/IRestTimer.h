@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 // What the controller asks of the work and rest timer.
 class IRestTimer
 {
@@ -15,4 +17,14 @@ public:
     virtual void set_rest_screen_type(int type) = 0;
     // A break now, at the user's request.
     virtual void start_rest() = 0;
+
+    // What the status line and the tray's tooltip show once a second.
+    virtual bool is_paused() const = 0;
+    // Milliseconds left; below 1 when that period is not running.
+    virtual int get_remaining_work_int() const = 0;
+    virtual int get_remaining_rest_int() const = 0;
+    virtual QString get_remaining_work_string() const = 0;
+    virtual QString get_remaining_rest_string() const = 0;
+    // The last seconds of a period.
+    virtual void start_bip_sound() = 0;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 // What the controller asks of the icon in the notification area.
 class ITrayIcon
 {
@@ -16,6 +18,8 @@ public:
     // The pauser entries offer the application in front; they follow the
     // lists and the name.
     virtual void refresh_pausers_actions() = 0;
-    // The icon's colour and tooltip follow the values of the moment.
-    virtual void refresh_status() = 0;
+    // The icon's colour follows the state; while colours change it turns.
+    virtual void update_tray_icon(bool changing) = 0;
+    virtual void set_tooltip(const QString& text) = 0;
+    virtual void show_message(const QString& title, const QString& text) = 0;
 };
