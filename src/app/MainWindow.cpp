@@ -10,6 +10,7 @@
 #include "app/ExitGuard.h"
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
+#include "breaks/IdleTime.h"
 #include "color/ColorCurve.h"
 #include "color/ColorTick.h"
 #include "settings/SaveKeys.h"
@@ -70,6 +71,7 @@ MainWindow::MainWindow(QObject* parent)
     refresh_preserve_gamma();
 
     setup_timers();
+    create_new_rest_timer();
     setup_signal_handlers();
     check_for_first_start();
     setup_ovra_icon();
@@ -87,6 +89,8 @@ MainWindow::MainWindow(QObject* parent)
 
 MainWindow::~MainWindow()
 {
+    delete_rest_timer();
+    delete idle_time;
     if (gamma) {
         restore_gamma();
         delete gamma;

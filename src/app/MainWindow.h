@@ -24,7 +24,9 @@ class IGamma;
 class GammaFactory;
 class HiddenFeatures;
 class IColorTriggers;
+class IdleTime;
 class IRestTimer;
+class NewVersionNotification;
 class IScreenOverlays;
 class ITrayIcon;
 class OnlineState;
@@ -209,8 +211,6 @@ private:
     void update_pwm_control_status() {}
     // The tray's actions and the overlays follow a pause.
     void refresh_pause_dependents();
-    void start_rest_timer();
-    void stop_rest_timer();
 
     QNetworkAccessManager* network_manager = nullptr;
     IGamma* gamma = nullptr;
@@ -679,6 +679,30 @@ signals:
     void set_screen_count(int value);
     void ignore_monitor(int value);
     // End of The page's actions -----------------------------------------------
+
+    // Breaks ------------------------------------------------------------------------
+    // The work and rest timer and what stops it: the user's pause, watched
+    // applications and a user away from the machine; the exercises and the
+    // new-version prompt. Bodies in MainWindowBreaks.cpp and
+    // MainWindowSubsystems.cpp; the timer and its windows in src/breaks.
+public slots:
+    void create_new_rest_timer();
+    void delete_rest_timer();
+    void toggle_rest_timer(bool stop);
+    void stop_rest_timer();
+    void start_rest_timer();
+    void pause_rest_timer(bool checked);
+    void automatic_timer_pause(bool checked);
+    bool is_timer_paused();
+    void new_version_available(QString version);
+    void delete_new_version_notification();
+
+private:
+    void refresh_rest_screen_type();
+    IdleTime* idle_time = nullptr;
+    bool timer_auto_paused = false;
+    NewVersionNotification* new_version_notification = nullptr;
+    // End of Breaks -----------------------------------------------------------------
 
     // Signals sent by subsystems still to come ------------------------------------
     // Declared now so that the page's subscriptions find them: the status

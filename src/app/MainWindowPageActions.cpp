@@ -32,11 +32,6 @@ void MainWindow::start_rest()
     force_refresh();
 }
 
-// The exercise notifications of the breaks part open here.
-void MainWindow::start_eye_exercises() {}
-void MainWindow::start_neck_exercises() {}
-void MainWindow::start_back_exercises() {}
-
 // The blink reminder screen of the camera part opens and closes here.
 void MainWindow::show_blink_screen() {}
 void MainWindow::hide_blink_screen() {}

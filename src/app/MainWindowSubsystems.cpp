@@ -3,6 +3,7 @@
 // the controller then behaves as the program does without it.
 #include "app/MainWindow.h"
 #include "breaks/IRestTimer.h"
+#include "breaks/IdleTime.h"
 #include "overlays/IScreenOverlays.h"
 #include "settings/ChangeRule.h"
 #include "settings/SaveKeys.h"
@@ -26,12 +27,14 @@ void MainWindow::refresh_pause_dependents()
 void MainWindow::reset_timer()
 {
     if (rest_timer)
-        rest_timer->reset_timer();
+        rest_timer->reset_rest_timer(settings[SaveKeys::WORK_TIME].toInt(),
+                                     settings[SaveKeys::REST_TIME].toInt(),
+                                     settings[SaveKeys::POSTPONE_TIME].toInt());
 }
 
 void MainWindow::start_rest_timer()
 {
-    if (rest_timer)
+    if (rest_timer && !settings[SaveKeys::IS_TIMER_PAUSED].toBool())
         rest_timer->start_rest_timer();
 }
 
@@ -53,8 +56,13 @@ void MainWindow::update_idle_time()
         }
         return;
     }
-    ++idle_seconds;
-    if (idle_seconds > 120) {
+    // The X server counts the time since the last input of either kind;
+    // any input resets the count.
+    if (!idle_time)
+        idle_time = new IdleTime();
+    const long idle_msecs = idle_time->idle_msecs();
+    idle_seconds = idle_msecs < 0 ? 0 : int(idle_msecs / 1000);
+    if (idle_seconds > IdleTime::threshold_seconds()) {
         if (rest_timer && !rest_timer->is_rest_started() && !idle_paused) {
             idle_paused = true;
             stop_rest_timer();

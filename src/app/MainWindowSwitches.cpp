@@ -3,6 +3,7 @@
 // the store), so storing them is the whole change; the others name what the
 // change sets off.
 #include "app/MainWindow.h"
+#include "breaks/IRestTimer.h"
 #include "settings/SaveKeys.h"
 #include "tray/ITrayIcon.h"
 
@@ -23,25 +24,34 @@ void MainWindow::use_pwm_control_changed(bool value)
 
 // ---------------------------------------------------------------- breaks
 
-// The rest screens read these two when they open and close.
 void MainWindow::automatically_close_rest_screen_changed(bool value)
 {
     store_setting(AUTOMATICALLY_CLOSE_REST_SCREEN, value,
-                  &MainWindow::set_automatically_close_rest_screen_value);
+                  &MainWindow::set_automatically_close_rest_screen_value, [this] {
+                      if (rest_timer)
+                          rest_timer->set_automatically_close_rest_screen(
+                              settings[AUTOMATICALLY_CLOSE_REST_SCREEN].toBool());
+                  });
 }
 
 void MainWindow::use_sounds_changed(bool value)
 {
-    store_setting(USE_SOUNDS, value, &MainWindow::set_use_sounds);
+    store_setting(USE_SOUNDS, value, &MainWindow::set_use_sounds, [this] {
+        if (rest_timer)
+            rest_timer->set_use_sounds(settings[USE_SOUNDS].toBool());
+    });
 }
 
+// Takes effect with the next rest's screens.
 void MainWindow::use_keyboard_blocking_changed(bool value)
 {
-    store_setting(USE_KEYBOARD_BLOCKING, value, &MainWindow::set_use_keyboard_blocking);
+    store_setting(USE_KEYBOARD_BLOCKING, value, &MainWindow::set_use_keyboard_blocking, [this] {
+        if (rest_timer)
+            rest_timer->set_use_keyboard_blocking(settings[USE_KEYBOARD_BLOCKING].toBool());
+    });
 }
 
-// The idle count reads both every second. The keyboard hook that feeds it
-// is attached by the hotkey service, which follows this switch too.
+// The idle count reads both every second.
 void MainWindow::use_mouse_inactivity_changed(bool value)
 {
     store_setting(USE_MOUSE_INACTIVITY, value, &MainWindow::set_use_mouse_inactivity);

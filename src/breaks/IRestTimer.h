@@ -11,7 +11,7 @@ public:
     // Stops and resumes the work count, for a user away from the machine.
     virtual void start_rest_timer() = 0;
     virtual void stop_rest_timer() = 0;
-    // Takes the lengths and the type from the settings again.
+    // Restarts the running period from its full length.
     virtual void reset_timer() = 0;
     virtual void set_timer_type(int type) = 0;
     virtual void set_rest_screen_type(int type) = 0;
@@ -27,4 +27,21 @@ public:
     virtual QString get_remaining_rest_string() const = 0;
     // The last seconds of a period.
     virtual void start_bip_sound() = 0;
+
+    // The lengths from the settings: minutes, seconds, minutes. A change of
+    // any of them restarts the running period.
+    virtual void reset_rest_timer(int work_minutes, int rest_seconds, int postpone_minutes) = 0;
+    virtual void set_automatically_close_rest_screen(bool value) = 0;
+    virtual void set_use_sounds(bool value) = 0;
+    // Strict rests then swallow keys and refuse to close.
+    virtual void set_use_keyboard_blocking(bool value) = 0;
+    // Work to rest, or rest to work.
+    virtual void toggle_timer() = 0;
+    // Holds the running period with what is left of it, or goes on with it.
+    virtual void pause_resume_timer() = 0;
+    // The message of a big rest ahead: at a tenth of the work time (for
+    // work times of ten minutes or more) and at 30 seconds. Once each.
+    virtual bool is_rest_coming(QString& message) = 0;
+    // Once a second, on the controller's tick.
+    virtual void update() = 0;
 };

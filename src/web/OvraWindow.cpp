@@ -65,6 +65,11 @@ void OvraWindow::resize_page(const QSize& size)
     windows()->host()->resize(name, size);
 }
 
+void OvraWindow::place_page(const QRect& rect)
+{
+    windows()->host()->set_geometry(name, rect);
+}
+
 void OvraWindow::evaluate_JavaScript(const QString& script)
 {
     windows()->host()->evaluate(name, script);

@@ -37,6 +37,8 @@ public:
     void hide_page();
     void close_page();
     void resize_page(const QSize& size);
+    // Moves and sizes the open window.
+    void place_page(const QRect& rect);
     // Runs a line of script in the window's page.
     void evaluate_JavaScript(const QString& script);
 
