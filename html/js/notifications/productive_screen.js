@@ -18,6 +18,8 @@ function refresh_state() {
   document.body.classList.toggle("inBreak", productive.resting);
   document.getElementById("button").textContent =
     productive.resting ? productive.texts.START_WORKING : productive.texts.HAVE_A_BREAK;
+  // The button's words differ in width: the window follows.
+  report_size(document.querySelector(".productive-container"));
 }
 
 function set_rest_state() {
@@ -34,7 +36,6 @@ function translate() {
   load_texts(productive.texts).then(function (texts) {
     productive.texts = texts;
     refresh_state();
-    report_size(document.querySelector(".productive-container"));
   });
 }
 
