@@ -36,6 +36,12 @@ void IRestScreen::skip_rest()
         timer->end_rest();
 }
 
+void IRestScreen::page_close_requested()
+{
+    if (!timer->blocks_keyboard())
+        close_screen();
+}
+
 void IRestScreen::set_continue_button()
 {
     use_continue_button = true;

@@ -27,6 +27,9 @@ public:
     virtual void update_ui() = 0;
     // Takes the screen away; the object itself goes later.
     virtual void close_screen() { close_page(); }
+    // Unless the rest holds the user, a screen closes when asked; the rest
+    // goes on.
+    void page_close_requested() override;
     // The way out is there: the time is up, or the rest is not Strict.
     bool offers_way_out() const;
 
