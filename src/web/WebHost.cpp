@@ -84,10 +84,13 @@ WebHost::WebHost(QObject* parent)
 
 WebHost::~WebHost()
 {
-    // Children: a running host is killed by its QProcess on the way out,
-    // and would die with this process anyway.
-    if (m_process)
-        m_process->closeWriteChannel();
+    // Hosts still running, the current one or ones being ended, go now;
+    // they would die with this process anyway.
+    for (QProcess* process : findChildren<QProcess*>(Qt::FindDirectChildrenOnly)) {
+        disconnect(process, nullptr, this, nullptr);
+        process->kill();
+        process->waitForFinished(k_exit_grace_ms);
+    }
 }
 
 QString WebHost::host_path()

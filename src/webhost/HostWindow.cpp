@@ -260,15 +260,17 @@ bool HostWindow::eventFilter(QObject* watched, QEvent* event)
 void HostWindow::on_exposed()
 {
     m_exposed = true;
-    emit mapped(quint32(winId()));
     if (m_policy.keep_raised)
         m_raise_timer.start();
+    // The grab is asked for (and answered) before the report, so that once
+    // ovra hears of the window, keys are already held.
     if (m_policy.grab_keyboard)
         try_grab();
     if (m_activate_on_map) {
         m_activate_on_map = false;
         activate(m_pending_time);
     }
+    emit mapped(quint32(winId()));
 }
 
 void HostWindow::try_grab()
