@@ -16,37 +16,6 @@ const int k_start_timeout_ms = 5000;
 // How long an ended host may take to leave before it is killed.
 const int k_exit_grace_ms = 1000;
 
-struct StateName
-{
-    ShowState state;
-    const char* name;
-};
-const StateName k_states[] = {
-    {ShowState::Hidden, "hidden"},       {ShowState::Normal, "normal"},
-    {ShowState::Minimized, "minimized"}, {ShowState::Maximized, "maximized"},
-    {ShowState::Fullscreen, "fullscreen"},
-};
-
-QString state_name(ShowState state)
-{
-    for (const StateName& s : k_states) {
-        if (s.state == state)
-            return QString::fromLatin1(s.name);
-    }
-    return QStringLiteral("normal");
-}
-
-bool state_from_name(const QString& name, ShowState* state)
-{
-    for (const StateName& s : k_states) {
-        if (name == QLatin1String(s.name)) {
-            *state = s.state;
-            return true;
-        }
-    }
-    return false;
-}
-
 QJsonArray rect_array(const QRect& r)
 {
     return {r.x(), r.y(), r.width(), r.height()};
@@ -202,7 +171,7 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
                         {"url", url.toString(QUrl::FullyEncoded)},
                         {"title", spec.title},
                         {"flags", flags_object(spec)},
-                        {"state", state_name(state)}};
+                        {"state", host_states::name_of(state)}};
     if (!spec.rect.isNull())
         command.insert(QStringLiteral("rect"), rect_array(spec.rect));
     if (spec.size.isValid())
@@ -214,7 +183,7 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
 
 bool WebHost::show(const QString& id, ShowState state, quint32 user_time)
 {
-    QJsonObject command{{"cmd", "show"}, {"state", state_name(state)}};
+    QJsonObject command{{"cmd", "show"}, {"state", host_states::name_of(state)}};
     if (user_time)
         command.insert(QStringLiteral("time"), double(user_time));
     return send_to(id, command);
@@ -316,7 +285,7 @@ void WebHost::dispatch(const QJsonObject& event)
         emit escape_pressed(id);
     } else if (name == QLatin1String("state")) {
         ShowState state;
-        if (state_from_name(event.value(QLatin1String("state")).toString(), &state))
+        if (host_states::from_name(event.value(QLatin1String("state")).toString(), &state))
             emit state_changed(id, state);
     }
 }

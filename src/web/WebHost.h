@@ -8,6 +8,8 @@
 #include <QString>
 #include <QUrl>
 
+#include "web/HostStates.h"
+
 class QJsonObject;
 class QProcess;
 
@@ -31,7 +33,6 @@ struct WindowSpec
     bool start_offscreen = false; // off-screen until set_geometry()
 };
 
-enum class ShowState { Hidden, Normal, Minimized, Maximized, Fullscreen };
 
 // The client of the window host `ovra-web`, the only program that links the
 // web engine. It starts the host when a window is opened, and ends it when
