@@ -142,14 +142,8 @@ void HostWindow::show_in(ShowState state, quint32 user_time)
     if (!was_visible && wants_focus && user_time)
         X11Window::set_user_time(xid(), user_time);
     apply_state(state);
-    if (!wants_focus)
-        return;
-    if (m_exposed) {
-        activate(user_time);
-    } else {
-        m_activate_on_map = true;
-        m_pending_time = user_time;
-    }
+    if (wants_focus)
+        activate_when_mapped(user_time);
 }
 
 void HostWindow::bring_forward(quint32 user_time)
@@ -163,8 +157,13 @@ void HostWindow::bring_forward(quint32 user_time)
         showNormal();
     }
     raise();
-    if (m_policy.no_focus)
-        return;
+    if (!m_policy.no_focus)
+        activate_when_mapped(user_time);
+}
+
+void HostWindow::activate_when_mapped(quint32 user_time)
+{
+    // Focus can only go to a viewable window.
     if (m_exposed) {
         activate(user_time);
     } else {
