@@ -184,7 +184,7 @@ public slots:
 
 private:
     void set_window_opacity(double) {}
-    WindowSpec settings_window_spec() const;
+    WindowOptions settings_window_options() const;
     // The one-shot flags of the load belong to one page: a new page, in
     // the host or a browser, gets the whole sequence again.
     void forget_page();

@@ -20,18 +20,18 @@ PageWindows* OvraWindow::windows() const
     return PageWindows::instance();
 }
 
-bool OvraWindow::open_page(const WindowSpec& spec, ShowState state)
+bool OvraWindow::open_page(const WindowOptions& options, ShowState state)
 {
-    last_spec = spec;
+    last_options = options;
     last_state = state;
     loaded = false;
     visible = state != ShowState::Hidden;
-    return windows()->open(this, spec, state);
+    return windows()->open(this, options, state);
 }
 
 bool OvraWindow::reopen_page()
 {
-    return open_page(last_spec, last_state);
+    return open_page(last_options, last_state);
 }
 
 bool OvraWindow::is_page_open() const

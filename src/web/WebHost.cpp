@@ -26,15 +26,15 @@ QJsonArray size_array(const QSize& s)
     return {s.width(), s.height()};
 }
 
-QJsonObject flags_object(const WindowSpec& spec)
+QJsonObject flags_object(const WindowOptions& options)
 {
     const std::pair<const char*, bool> flags[] = {
-        {"frameless", spec.frameless},         {"stays_on_top", spec.stays_on_top},
-        {"tool", spec.tool},                   {"tooltip", spec.tooltip},
-        {"translucent", spec.translucent},     {"refuse_close", spec.refuse_close},
-        {"swallow_keys", spec.swallow_keys},   {"grab_keyboard", spec.grab_keyboard},
-        {"keep_raised", spec.keep_raised},     {"click_through", spec.click_through},
-        {"no_focus", spec.no_focus},           {"start_offscreen", spec.start_offscreen},
+        {"frameless", options.frameless},       {"stays_on_top", options.stays_on_top},
+        {"tool", options.tool},                 {"tooltip", options.tooltip},
+        {"translucent", options.translucent},   {"refuse_close", options.refuse_close},
+        {"swallow_keys", options.swallow_keys}, {"grab_keyboard", options.grab_keyboard},
+        {"keep_raised", options.keep_raised},   {"click_through", options.click_through},
+        {"no_focus", options.no_focus},         {"start_offscreen", options.start_offscreen},
     };
     QJsonObject result;
     for (const auto& flag : flags) {
@@ -158,7 +158,8 @@ bool WebHost::send_to(const QString& id, QJsonObject command)
     return true;
 }
 
-bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state)
+bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& options,
+                   ShowState state)
 {
     if (m_windows.contains(id)) {
         fprintf(stderr, "ovra: page window %s is already open\n", qPrintable(id));
@@ -169,13 +170,13 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
     QJsonObject command{{"cmd", "open"},
                         {"id", id},
                         {"url", url.toString(QUrl::FullyEncoded)},
-                        {"title", spec.title},
-                        {"flags", flags_object(spec)},
+                        {"title", options.title},
+                        {"flags", flags_object(options)},
                         {"state", host_states::name_of(state)}};
-    if (!spec.rect.isNull())
-        command.insert(QStringLiteral("rect"), rect_array(spec.rect));
-    if (spec.size.isValid())
-        command.insert(QStringLiteral("size"), size_array(spec.size));
+    if (!options.rect.isNull())
+        command.insert(QStringLiteral("rect"), rect_array(options.rect));
+    if (options.size.isValid())
+        command.insert(QStringLiteral("size"), size_array(options.size));
     send(command);
     m_windows.insert(id);
     return true;
@@ -224,9 +225,9 @@ bool WebHost::set_geometry(const QString& id, const QRect& rect)
     return send_to(id, {{"cmd", "geometry"}, {"rect", rect_array(rect)}});
 }
 
-bool WebHost::set_policy(const QString& id, const WindowSpec& spec)
+bool WebHost::set_policy(const QString& id, const WindowOptions& options)
 {
-    return send_to(id, {{"cmd", "policy"}, {"flags", flags_object(spec)}});
+    return send_to(id, {{"cmd", "policy"}, {"flags", flags_object(options)}});
 }
 
 bool WebHost::evaluate(const QString& id, const QString& script)

@@ -14,7 +14,7 @@ class QJsonObject;
 class QProcess;
 
 // How a page window looks and what the host enforces for it.
-struct WindowSpec
+struct WindowOptions
 {
     QRect rect;    // where on the screen; a null rect leaves placement to the WM
     QSize size;    // used when rect is null
@@ -79,7 +79,7 @@ public:
     // Starts the host if needed. False, with one line on stderr, when the
     // host cannot be started or the id is already open; the next call tries
     // again.
-    bool open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state);
+    bool open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state);
     // `user_time` is the X server time of the user's event that asked for
     // the window (0: none): it lets the window pass focus-stealing checks.
     // These return false when no window has that id.
@@ -89,7 +89,7 @@ public:
     bool close(const QString& id);
     bool resize(const QString& id, const QSize& size);
     bool set_geometry(const QString& id, const QRect& rect);
-    bool set_policy(const QString& id, const WindowSpec& spec);
+    bool set_policy(const QString& id, const WindowOptions& options);
     bool evaluate(const QString& id, const QString& script);
 
     bool has_window(const QString& id) const { return m_windows.contains(id); }
