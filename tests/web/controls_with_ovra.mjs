@@ -6,7 +6,7 @@
 import test from "node:test";
 import assert from "node:assert/strict";
 import fs from "node:fs";
-import { open_browser, open_page } from "./lib/browser.mjs";
+import { open_browser, open_page, screenshot } from "./lib/browser.mjs";
 import { start_ovra, write_config, read_config, config_file, wait_for } from "./lib/ovra.mjs";
 import { TRACED, ProgramLog, settle } from "./lib/program_log.mjs";
 
@@ -116,6 +116,7 @@ for (const row of FORMS) {
 
       await row.change(page);
       await settle(page);
+      await screenshot(page, "controls-" + row.form.replace(" ", "-"));
       assert.equal(await row.shows(page), row.after);
       assert.deepEqual(log.calls(row.slot), [row.call], "one call, and no answer to the program's own");
       for (const [key, value] of Object.entries(row.stores)) {
