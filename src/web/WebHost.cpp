@@ -186,7 +186,8 @@ bool WebHost::send_to(const QString& id, QJsonObject command)
     return true;
 }
 
-bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state)
+bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state,
+                   quint32 user_time)
 {
     if (m_windows.contains(id)) {
         fprintf(stderr, "ovra: page window %s is already open\n", qPrintable(id));
@@ -204,6 +205,8 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
         command.insert(QStringLiteral("rect"), rect_array(spec.rect));
     if (spec.size.isValid())
         command.insert(QStringLiteral("size"), size_array(spec.size));
+    if (user_time)
+        command.insert(QStringLiteral("time"), double(user_time));
     send(command);
     m_windows.insert(id);
     return true;
