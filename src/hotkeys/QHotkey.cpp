@@ -126,5 +126,7 @@ bool QHotkey::setNativeShortcut(QHotkey::NativeShortcut shortcut, bool autoRegis
     key = Qt::Key_unknown;
     mods = Qt::NoModifier;
     nativeShortcut = shortcut;
-    return autoRegister && service ? service->addShortcut(this) : !autoRegister;
+    if (!autoRegister)
+        return true;
+    return service && service->addShortcut(this);
 }
