@@ -9,12 +9,11 @@ from harness import (TOOLS_DIR, OVRA_ROWS, OvraTestCase, expected_tint, read_ram
 OVRA_ROWS.setdefault(3000, (1.0, .71976951, .42860152))
 
 VALUES = {"DayTemperature": 6500, "NightTemperature": 3000, "SleepLight": 2700,
-          "DayBrightness": 100, "NightBrightness": 70, "SleepBrightness": 50}
+          "DayBrightness": 100, "NightBrightness": 70, "SleepBrightness": 50,
+          "UseManualColorSettings": "true", "UseManualBrightness": "true"}
 CONFIG = dict(
     {"SaveVersion": 3, "OptimizeUiCreation": "true", "UseKeyboardShortcuts": "true",
      "PauseTransitionDuration": 300, "AdvancedView": "true",
-     "UseManualColorSettings": "true", "UseManualBrightness": "true",
-     "AdvancedUseManualColorSettings": "true", "AdvancedUseManualBrightness": "true",
      # The defaults of these four name keys that X does not know, and never fire.
      "IncreaseBrightnessHotkey": "Ctrl+Alt+Right", "DecreaseBrightnessHotkey": "Ctrl+Alt+Left",
      "StartRestHotkey": "Ctrl+Alt+S", "QuitOvraHotkey": "Ctrl+Alt+Q"},

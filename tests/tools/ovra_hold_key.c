@@ -1,7 +1,7 @@
-/* Holds a key combination the way another program's global shortcut does: a
- * passive grab on the root window, kept until standard input closes.
- * Usage: ovra-hold-key <keysym name> <modifier mask>
- * Prints "held" once the server granted the grab; exits 1 when it refused. */
+/* Holds a key combination as another program's global shortcut does: a
+ * passive grab on the root window, kept until standard input closes. Prints
+ * "held" once granted; exits 1 when refused.
+ * Usage: ovra-hold-key <keysym name> <modifier mask> */
 #include <X11/Xlib.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -13,26 +13,16 @@ static int note_error(Display* display, XErrorEvent* error)
 {
     (void)display;
     (void)error;
-    refused = 1;
-    return 0;
+    return refused = 1;
 }
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        fprintf(stderr, "usage: %s <keysym name> <modifier mask>\n", argv[0]);
-        return 2;
-    }
-    Display* display = XOpenDisplay(NULL);
-    if (!display) {
-        fprintf(stderr, "cannot open display\n");
-        return 1;
-    }
-    KeySym symbol = XStringToKeysym(argv[1]);
-    KeyCode code = symbol == NoSymbol ? 0 : XKeysymToKeycode(display, symbol);
+    Display* display = argc == 3 ? XOpenDisplay(NULL) : NULL;
+    KeyCode code = display ? XKeysymToKeycode(display, XStringToKeysym(argv[1])) : 0;
     if (!code) {
-        fprintf(stderr, "no key for %s\n", argv[1]);
-        return 1;
+        fprintf(stderr, "usage: %s <keysym name> <modifier mask>, with a display\n", argv[0]);
+        return 2;
     }
     XSetErrorHandler(note_error);
     XGrabKey(display, code, (unsigned)strtoul(argv[2], NULL, 0), DefaultRootWindow(display), True,
@@ -47,6 +37,5 @@ int main(int argc, char** argv)
     char buffer[64];
     while (read(STDIN_FILENO, buffer, sizeof buffer) > 0) {
     }
-    XCloseDisplay(display);
     return 0;
 }
