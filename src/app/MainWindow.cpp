@@ -14,6 +14,7 @@
 #include "color/ColorTick.h"
 #include "settings/SaveKeys.h"
 #include "color/IGamma.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "services/OnlineState.h"
 #include "services/Translator.h"
 #include "services/Updater.h"
@@ -54,6 +55,7 @@ MainWindow::MainWindow(QObject* parent)
     restore_saved_settings();
     if (!setting_true(settings, "OptimizeUiCreation"))
         create_ovra_ui();
+    setup_hotkeys();
 
     translator = new Translator(this);
     hidden_features = new HiddenFeatures();
@@ -87,6 +89,7 @@ MainWindow::MainWindow(QObject* parent)
 
 MainWindow::~MainWindow()
 {
+    delete hotkey_processor;
     if (gamma) {
         restore_gamma();
         delete gamma;

@@ -23,6 +23,7 @@ class ColorTick;
 class IGamma;
 class GammaFactory;
 class HiddenFeatures;
+class HotkeyProcessor;
 class IColorTriggers;
 class IRestTimer;
 class IScreenOverlays;
@@ -679,6 +680,22 @@ signals:
     void set_screen_count(int value);
     void ignore_monitor(int value);
     // End of The page's actions -----------------------------------------------
+
+    // Hotkeys -------------------------------------------------------------------
+    // The fourteen global key combinations and their actions. Bodies in
+    // MainWindowHotkeys.cpp; the grabs and the actions' rules in src/hotkeys.
+public slots:
+    // The combinations are grabbed while UseKeyboardShortcuts is on.
+    void reconnect_keyboard_hook();
+
+public:
+    HotkeyProcessor* get_hotkey_processor() const { return hotkey_processor; }
+
+private:
+    void setup_hotkeys();
+
+    HotkeyProcessor* hotkey_processor = nullptr;
+    // End of Hotkeys ------------------------------------------------------------
 
     // Signals sent by subsystems still to come ------------------------------------
     // Declared now so that the page's subscriptions find them: the status

@@ -8,6 +8,7 @@
 
 #include "app/MainWindow.h"
 #include "breaks/IRestTimer.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "overlays/IScreenOverlays.h"
 #include "settings/Defines.h"
 #include "settings/SaveKeys.h"
@@ -98,7 +99,8 @@ void MainWindow::activate_hidden_feature(QString hidden_feature)
 
 // Everything back to its default but the language and the first-start mark;
 // the page then gets the whole push. The language is set again by the
-// translator, the hotkeys grab their defaults when that service follows.
+// translator; the hotkeys take their default combinations, and are released
+// since they are off by default.
 void MainWindow::reset_settings_to_default()
 {
     if (SaveManager::s_instance)
@@ -107,6 +109,8 @@ void MainWindow::reset_settings_to_default()
     restore_saved_settings();
     refresh_unused_pages();
     refresh_color_triggers();
+    reconnect_keyboard_hook();
+    hotkey_processor->refresh_shortcuts();
     check_for_first_start();
     first_start = false;
     restore_settings();

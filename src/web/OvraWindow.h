@@ -29,6 +29,8 @@ public:
 
     // Opens the window on its page in the host, which starts if need be.
     // False when it cannot be shown (no host); the next call tries again.
+    // Opening and showing carry the time of the user's input at hand
+    // (UserTime), so that a window the user asked for takes the focus.
     bool open_page(const WindowOptions& options, ShowState state);
     bool is_page_open() const;
     bool is_page_loaded() const { return loaded; }

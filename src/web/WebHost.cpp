@@ -158,8 +158,8 @@ bool WebHost::send_to(const QString& id, QJsonObject command)
     return true;
 }
 
-bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& options,
-                   ShowState state)
+bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state,
+                   quint32 user_time)
 {
     if (m_windows.contains(id)) {
         fprintf(stderr, "ovra: page window %s is already open\n", qPrintable(id));
@@ -177,6 +177,8 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& opti
         command.insert(QStringLiteral("rect"), rect_array(options.rect));
     if (options.size.isValid())
         command.insert(QStringLiteral("size"), size_array(options.size));
+    if (user_time)
+        command.insert(QStringLiteral("time"), double(user_time));
     send(command);
     m_windows.insert(id);
     return true;

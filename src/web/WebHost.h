@@ -45,7 +45,8 @@ struct WindowOptions
 // names this process, which it checks after asking to die with it.
 //
 // Commands ("cmd" and the fields each takes):
-//   open      id, url, title, rect [x,y,w,h] | size [w,h], flags {...}, state
+//   open      id, url, title, rect [x,y,w,h] | size [w,h], flags {...}, state,
+//             time (X time of the user's event, optional)
 //   show      id, state ("hidden" "normal" "minimized" "maximized"
 //             "fullscreen"), time (X time of the user's event, optional)
 //   hide      id
@@ -79,7 +80,8 @@ public:
     // Starts the host if needed. False, with one line on stderr, when the
     // host cannot be started or the id is already open; the next call tries
     // again.
-    bool open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state);
+    bool open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state,
+              quint32 user_time = 0);
     // `user_time` is the X server time of the user's event that asked for
     // the window (0: none): it lets the window pass focus-stealing checks.
     // These return false when no window has that id.
