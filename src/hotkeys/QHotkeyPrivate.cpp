@@ -121,5 +121,10 @@ bool QHotkeyPrivate::removeShortcutInvoked(QHotkey* hotkey)
 QHotkey::NativeShortcut QHotkeyPrivate::nativeShortcutInvoked(Qt::Key keycode,
                                                               Qt::KeyboardModifiers modifiers)
 {
-    return QHotkey::NativeShortcut(nativeKeycode(keycode), nativeModifiers(modifiers));
+    // Key code 0 is X's "any key": a grab of it would take every key with
+    // these modifiers from every other program.
+    const quint32 native_key = nativeKeycode(keycode);
+    if (native_key == 0)
+        return QHotkey::NativeShortcut();
+    return QHotkey::NativeShortcut(native_key, nativeModifiers(modifiers));
 }

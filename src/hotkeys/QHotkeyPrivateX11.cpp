@@ -86,10 +86,34 @@ bool QHotkeyPrivateX11::nativeEventFilter(const QByteArray& eventType, void* mes
 // X knows keys by keysym names: "Up", "Home", "F5" and letters come through;
 // a key whose Qt name is no keysym name and whose code is beyond 16 bits
 // (PgUp, Enter, Esc) gets keycode 0, which X reads as any key.
+namespace {
+// Keys whose name in a key sequence is not the X server's name for them.
+// Without this "PgUp" or "Esc" would find no key, and key code 0 grabs
+// every key: the default shortcuts would take all Ctrl+Alt combinations.
+struct XKeyName
+{
+    Qt::Key key;
+    const char* name;
+};
+const XKeyName x_key_names[] = {
+    {Qt::Key_PageUp, "Prior"},        {Qt::Key_PageDown, "Next"},
+    // The page records either Enter key as "Enter": the main one is meant.
+    {Qt::Key_Return, "Return"},       {Qt::Key_Enter, "Return"},
+    {Qt::Key_Escape, "Escape"},       {Qt::Key_Backspace, "BackSpace"},
+    {Qt::Key_Space, "space"},         {Qt::Key_Print, "Print"},
+    {Qt::Key_CapsLock, "Caps_Lock"},  {Qt::Key_NumLock, "Num_Lock"},
+    {Qt::Key_ScrollLock, "Scroll_Lock"},
+};
+} // namespace
+
 quint32 QHotkeyPrivateX11::nativeKeycode(Qt::Key keycode)
 {
-    const QByteArray name =
+    QByteArray name =
         QKeySequence(QKeyCombination(keycode)).toString(QKeySequence::NativeText).toLatin1();
+    for (const XKeyName& known : x_key_names) {
+        if (known.key == keycode)
+            name = known.name;
+    }
     KeySym symbol = XStringToKeysym(name.constData());
     if (symbol == NoSymbol) {
         if (quint32(keycode) > 0xFFFF)
