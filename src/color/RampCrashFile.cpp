@@ -3,8 +3,11 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
+#include <cerrno>
+#include <cstdio>
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -24,6 +27,22 @@ void put_u16(QByteArray& out, uint16_t value)
 {
     out.append(static_cast<char>(value & 0xff));
     out.append(static_cast<char>(value >> 8));
+}
+
+bool write_all(int fd, const QByteArray& data)
+{
+    const char* next = data.constData();
+    qsizetype left = data.size();
+    while (left > 0) {
+        const ssize_t n = ::write(fd, next, static_cast<size_t>(left));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        next += n;
+        left -= n;
+    }
+    return true;
 }
 
 uint32_t fnv1a(const char* data, qsizetype size)
@@ -132,13 +151,21 @@ bool RampCrashFile::write(const std::vector<KeptCrtcRamps>& crtcs) const
     }
     put_u32(out, fnv1a(out.constData(), out.size()));
 
-    QSaveFile file(file_path);
-    if (!file.open(QIODevice::WriteOnly))
+    // The file guards against this process dying, not the machine: after a
+    // power cut the X server comes back with ramps of its own. So it is not
+    // synced to the disk, which would make each step of a fade, forty a
+    // second, wait for the disk.
+    const QByteArray path = QFile::encodeName(file_path);
+    const QByteArray temp = path + ".new";
+    const int fd = ::open(temp.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (fd < 0)
         return false;
-    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    if (file.write(out) != out.size())
+    const bool written = write_all(fd, out);
+    if (::close(fd) != 0 || !written || std::rename(temp.constData(), path.constData()) != 0) {
+        ::unlink(temp.constData());
         return false;
-    return file.commit();
+    }
+    return true;
 }
 
 RampCrashFile::LoadResult RampCrashFile::load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const

@@ -34,7 +34,9 @@ public:
 
     const QString& path() const { return file_path; }
 
-    // Temp file and rename, so a reader never sees half a file.
+    // Temp file and rename, so a reader never sees half a file; not synced
+    // to the disk, since it guards against this process dying, not the
+    // machine.
     bool write(const std::vector<KeptCrtcRamps>& crtcs) const;
     // Invalid comes with a short reason (bad magic, truncated, ...).
     LoadResult load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const;
