@@ -8,13 +8,11 @@ TraySpin::TraySpin(QObject* parent) : QObject(parent)
 
 void TraySpin::colors_changing(bool changing)
 {
-    if (changing) {
-        quiet_updates = 0;
-        if (!timer.isActive())
-            timer.start();
-    } else if (timer.isActive()) {
-        ++quiet_updates;
-    }
+    if (!changing)
+        return;
+    steps_left = TURN_MSECS / STEP_MSECS;
+    if (!timer.isActive())
+        timer.start();
 }
 
 void TraySpin::step()
@@ -22,9 +20,10 @@ void TraySpin::step()
     current += STEP_DEGREES;
     if (current > 360)
         current = STEP_DEGREES;
-    if (quiet_updates >= QUIET_UPDATES && current == 360) {
+    if (steps_left > 0)
+        --steps_left;
+    if (steps_left == 0 && current == 360) {
         timer.stop();
-        quiet_updates = 0;
         current = 0;
     }
     emit turned(current);
@@ -33,7 +32,7 @@ void TraySpin::step()
 void TraySpin::stop()
 {
     timer.stop();
-    quiet_updates = 0;
+    steps_left = 0;
     if (current == 0)
         return;
     current = 0;

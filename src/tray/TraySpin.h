@@ -4,10 +4,10 @@
 #include <QTimer>
 
 // Turns the icon's mark while the colours change. Its timer runs only then:
-// an icon at rest costs no wake-up. The icon is updated once a second and
-// says each time whether the colours moved; a tint that moves by a kelvin
-// every few seconds should not start and stop the turn, so it goes on for
-// QUIET_UPDATES quiet updates more, then ends the turn upright.
+// an icon at rest costs no wake-up. Each report of a change keeps the mark
+// turning for TURN_MSECS more, so that a tint that moves by a kelvin every
+// second or two turns smoothly, and a turn that hears nothing more ends by
+// itself, upright.
 class TraySpin : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class TraySpin : public QObject
 public:
     static constexpr int STEP_DEGREES = 45;
     static constexpr int STEP_MSECS = 125;
-    static constexpr int QUIET_UPDATES = 2;
+    static constexpr int TURN_MSECS = 2000;
 
     explicit TraySpin(QObject* parent = nullptr);
 
@@ -24,7 +24,7 @@ public:
     int angle() const { return current; }
     bool turning() const { return timer.isActive(); }
 
-    // Once per update of the icon.
+    // Whether the colours moved since the last report.
     void colors_changing(bool changing);
     // Upright at once, for a picture that does not turn.
     void stop();
@@ -38,5 +38,5 @@ signals:
 private:
     QTimer timer;
     int current = 0;
-    int quiet_updates = 0;
+    int steps_left = 0;
 };

@@ -55,11 +55,16 @@ const Item ITEMS[] = {
     {"Exit", exit_callback},
 };
 
+// GLib's messages go where Qt's go: nowhere, unless asked for.
+void drop_message(const gchar*, GLogLevelFlags, const gchar*, gpointer) {}
+
 // GTK runs on the program's own GLib loop, which Qt's event dispatcher
 // turns; it only needs its display opened once.
 bool gtk_ready()
 {
     static const bool ready = [] {
+        if (qEnvironmentVariableIntValue("OVRA_DEBUG") != 1)
+            g_log_set_default_handler(drop_message, nullptr);
         gdk_set_allowed_backends("x11");
         // Qt has set the locale already.
         gtk_disable_setlocale();
@@ -79,8 +84,10 @@ AppIndicatorTrayIcon::~AppIndicatorTrayIcon()
     // No callback may reach a controller that is going away.
     if (indicator)
         g_object_unref(indicator);
-    if (menu)
+    if (menu) {
         gtk_widget_destroy(menu);
+        g_object_unref(menu);
+    }
 }
 
 QString AppIndicatorTrayIcon::icon_path()
@@ -99,7 +106,9 @@ void AppIndicatorTrayIcon::show_icon()
         std::cerr << "Ovra: GTK cannot open the display; no indicator" << std::endl;
         return;
     }
-    menu = gtk_menu_new();
+    // Held by this object as well as by the indicator, so that either may
+    // let go first.
+    menu = GTK_WIDGET(g_object_ref_sink(gtk_menu_new()));
     for (const Item& item : ITEMS) {
         GtkWidget* widget = item.label ? gtk_menu_item_new_with_label(item.label)
                                        : gtk_separator_menu_item_new();
