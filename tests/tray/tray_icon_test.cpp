@@ -1,12 +1,11 @@
-// The tray icon on Qt's tray: what its menu offers and calls, which picture
-// each state shows, how the mark turns and comes to rest, and the pauser
-// entries. Then the same menu on the real controller.
+// The tray icon on Qt's tray: its menu and what each entry calls, which
+// picture each state shows, how the mark turns and comes to rest, and the
+// pauser entries. Then the menu on the real controller.
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QMenu>
 #include <QSettings>
-#include <QStringList>
 
 #include "ControllerFixture.h"
 #include "tray/PauserLists.h"
@@ -14,44 +13,31 @@
 
 namespace {
 
-// A host that records what the menu calls, and answers from fields.
+// A host that records what the menu calls and answers from its fields.
 struct RecordingHost
 {
     SettingsMap settings;
-    bool loaded = true;
-    bool paused = false;
-    bool changing = false;
-    QStringList processes;
-    QStringList calls;
+    bool loaded = true, paused = false, changing = false;
+    QStringList processes, calls;
 
     TrayHost hooks()
     {
-        TrayHost host;
-        host.settings = &settings;
-        host.is_ovra_loaded = [this] { return loaded; };
-        host.is_ovra_paused = [this] { return paused; };
-        host.colors_changing = [this] { return changing; };
-        host.get_last_processes = [this] { return processes; };
-        host.bring_to_front = [this] { calls << "front"; };
-        host.quit = [this] { calls << "quit"; };
-        host.change_type = [this](int type) { calls << QString("type %1").arg(type); };
-        host.change_mode = [this](int mode) { calls << QString("mode %1").arg(mode); };
-        host.next_mode = [this] { calls << "next mode"; };
-        host.save_tray_icon = [this] { calls << "save"; };
-        host.save_pausers = [this](PauserKind kind, const QString& list) {
+        TrayHost h;
+        h.settings = &settings;
+        h.is_ovra_loaded = [this] { return loaded; };
+        h.is_ovra_paused = [this] { return paused; };
+        h.colors_changing = [this] { return changing; };
+        h.get_last_processes = [this] { return processes; };
+        h.bring_to_front = [this] { calls << "front"; };
+        h.quit = [this] { calls << "quit"; };
+        h.change_type = [this](int type) { calls << QString("type %1").arg(type); };
+        h.save_tray_icon = [this] { calls << "save"; };
+        h.save_pausers = [this](PauserKind kind, const QString& list) {
             calls << QString("pausers %1 %2").arg(int(kind)).arg(list);
         };
-        return host;
+        return h;
     }
 };
-
-QStringList texts(const QMenu* menu)
-{
-    QStringList result;
-    for (const QAction* action : menu->actions())
-        result << (action->isSeparator() ? QString("-") : action->text());
-    return result;
-}
 
 QAction* entry(const QMenu* menu, const QString& text)
 {
@@ -64,45 +50,33 @@ QAction* entry(const QMenu* menu, const QString& text)
 class Tray : public ::testing::Test
 {
 protected:
-    RecordingHost host;
-    std::unique_ptr<TrayIcon> tray;
-
     // The mark turns only under the program's own name.
     void SetUp() override { QCoreApplication::setApplicationName("Ovra"); }
     void make() { tray = std::make_unique<TrayIcon>(host.hooks()); }
+
+    RecordingHost host;
+    std::unique_ptr<TrayIcon> tray;
 };
 
-TEST_F(Tray, MenuOffersThePagesTypesBetweenSettingsAndExit)
+TEST_F(Tray, MenuOffersThePagesTypesAndEachEntryCallsTheController)
 {
-    make();
-    EXPECT_EQ(texts(tray->context_menu()),
-              QStringList({"Settings", "-", "&Health", "&Sleep", "&Programming", "&Biohacker",
-                           "&Sunglasses", "&Movie", "-", "Exit"}));
-}
-
-TEST_F(Tray, EachEntryCallsTheControllerAndATypeIsSavedAtOnce)
-{
-    const struct
-    {
-        const char* entry;
-        QStringList calls;
-    } cases[] = {
-        {"Settings", {"front"}},
-        {"&Health", {"type 1", "save"}},
-        {"&Sleep", {"type 2", "save"}},
-        {"&Programming", {"type 4", "save"}},
-        {"&Biohacker", {"type 5", "save"}},
-        {"&Sunglasses", {"type 6", "save"}},
-        {"&Movie", {"type 8", "save"}},
-        {"Exit", {"quit"}},
+    const std::vector<std::pair<QString, QStringList>> menu = {
+        {"Settings", {"front"}},         {"-", {}},
+        {"&Health", {"type 1", "save"}}, {"&Sleep", {"type 2", "save"}},
+        {"&Programming", {"type 4", "save"}}, {"&Biohacker", {"type 5", "save"}},
+        {"&Sunglasses", {"type 6", "save"}}, {"&Movie", {"type 8", "save"}},
+        {"-", {}},                       {"Exit", {"quit"}},
     };
     make();
-    for (const auto& c : cases) {
+    const QList<QAction*> actions = tray->context_menu()->actions();
+    ASSERT_EQ(actions.size(), int(menu.size()));
+    for (size_t i = 0; i < menu.size(); ++i) {
+        QAction* action = actions[int(i)];
+        EXPECT_EQ(action->isSeparator() ? QString("-") : action->text(), menu[i].first);
         host.calls.clear();
-        QAction* action = entry(tray->context_menu(), c.entry);
-        ASSERT_TRUE(action) << c.entry;
-        action->trigger();
-        EXPECT_EQ(host.calls, c.calls) << c.entry;
+        if (!action->isSeparator())
+            action->trigger();
+        EXPECT_EQ(host.calls, menu[i].second) << menu[i].first.toStdString();
     }
 }
 
@@ -129,8 +103,7 @@ TEST_F(Tray, PictureFollowsGhostStartAndPause)
         host.loaded = c.loaded;
         host.paused = c.paused;
         tray->update_tray_icon(false);
-        EXPECT_EQ(tray->shown_art(), c.shown)
-            << c.ghost << c.loaded << c.optimize << c.paused;
+        EXPECT_EQ(tray->shown_art(), c.shown) << c.ghost << c.loaded << c.optimize << c.paused;
     }
 }
 
@@ -153,11 +126,8 @@ TEST_F(Tray, MarkTurnsWhileColoursChangeAndComesToRestUprightByItself)
     tray->update_tray_icon(false);
     const int renewed = TraySpin::TURN_MSECS / TraySpin::STEP_MSECS;
     int steps = 0;
-    while (tray->spin().turning() && steps < 1000) {
+    for (; tray->spin().turning() && steps < 1000; ++steps)
         tray->spin().step();
-        ++steps;
-    }
-    EXPECT_FALSE(tray->spin().turning());
     EXPECT_EQ(tray->shown_angle(), 0);
     EXPECT_GE(steps, renewed);
     EXPECT_LT(steps, renewed + 360 / TraySpin::STEP_DEGREES);
@@ -165,31 +135,24 @@ TEST_F(Tray, MarkTurnsWhileColoursChangeAndComesToRestUprightByItself)
 
 TEST_F(Tray, TurnStopsUprightWhenSwitchedOffOrPaused)
 {
-    host.settings[SaveKeys::USE_SPINNING_TRAY_ICON] = true;
     make();
     host.changing = true;
-    const struct
-    {
-        const char* what;
-        std::function<void()> change;
-        TrayArt shown;
-    } cases[] = {
-        {"spinning off", [&] { host.settings[SaveKeys::USE_SPINNING_TRAY_ICON] = false; },
-         TrayArt::Green},
-        {"paused", [&] { host.paused = true; }, TrayArt::Yellow},
+    const std::vector<std::pair<std::function<void()>, TrayArt>> cases = {
+        {[&] { host.settings[SaveKeys::USE_SPINNING_TRAY_ICON] = false; }, TrayArt::Green},
+        {[&] { host.paused = true; }, TrayArt::Yellow},
     };
-    for (const auto& c : cases) {
+    for (const auto& [change, shown] : cases) {
         host.settings[SaveKeys::USE_SPINNING_TRAY_ICON] = true;
         host.paused = false;
         tray->update_tray_icon(false);
-        ASSERT_TRUE(tray->spin().turning()) << c.what;
+        ASSERT_TRUE(tray->spin().turning());
         tray->spin().step();
-        ASSERT_EQ(tray->shown_angle(), 45) << c.what;
-        c.change();
+        ASSERT_EQ(tray->shown_angle(), 45);
+        change();
         tray->update_tray_icon(false);
-        EXPECT_FALSE(tray->spin().turning()) << c.what;
-        EXPECT_EQ(tray->shown_angle(), 0) << c.what;
-        EXPECT_EQ(tray->shown_art(), c.shown) << c.what;
+        EXPECT_FALSE(tray->spin().turning());
+        EXPECT_EQ(tray->shown_angle(), 0);
+        EXPECT_EQ(tray->shown_art(), shown);
     }
 }
 
@@ -204,18 +167,15 @@ TEST_F(Tray, PauserEntriesOfferThreeRecentApplications)
     host.settings[SaveKeys::MOUSE_PAUSERS] = "vlc";
     make();
     tray->refresh_pausers_actions();
-
-    auto checked = [](const QMenu* menu) {
+    auto checked = [this](PauserKind kind) {
         QStringList result;
-        for (const QAction* action : menu->actions())
+        for (const QAction* action : tray->pauser_menu(kind)->actions())
             result << action->text() + (action->isChecked() ? "+" : "");
         return result;
     };
-    EXPECT_EQ(checked(tray->pauser_menu(PauserKind::Color)),
-              QStringList({"vlc", "Photoshop+", "blender"}));
-    EXPECT_EQ(checked(tray->pauser_menu(PauserKind::Timer)),
-              QStringList({"vlc+", "Photoshop", "blender"}));
-    EXPECT_TRUE(tray->pauser_menu(PauserKind::Mouse)->actions().isEmpty());
+    EXPECT_EQ(checked(PauserKind::Color), QStringList({"vlc", "Photoshop+", "blender"}));
+    EXPECT_EQ(checked(PauserKind::Timer), QStringList({"vlc+", "Photoshop", "blender"}));
+    EXPECT_EQ(checked(PauserKind::Mouse), QStringList());
 
     entry(tray->pauser_menu(PauserKind::Color), "vlc")->trigger();
     entry(tray->pauser_menu(PauserKind::Color), "Photoshop")->trigger();
@@ -224,43 +184,26 @@ TEST_F(Tray, PauserEntriesOfferThreeRecentApplications)
 
 TEST(PauserLists, ToggledAddsOnceAndRemovesEveryLine)
 {
-    const struct
-    {
-        const char* list;
-        const char* name;
-        bool checked;
-        const char* result;
-    } cases[] = {
-        {"a\nb", "c", true, "a\nb\nc"},
-        {"a\nb", "a", true, "a\nb"},
-        {"a\nb\na", "a", false, "b"},
-        {"", "x", true, "x"},
-        {"ab\nb", "a", false, "ab\nb"},
-        {"a\n\nb", "b", false, "a\n"},
+    const char* const cases[][4] = {
+        // list, name, checked, result
+        {"a\nb", "c", "1", "a\nb\nc"}, {"a\nb", "a", "1", "a\nb"}, {"a\nb\na", "a", "", "b"},
+        {"", "x", "1", "x"},           {"ab\nb", "a", "", "ab\nb"}, {"a\n\nb", "b", "", "a\n"},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(PauserLists::toggled(c.list, c.name, c.checked), QString(c.result))
-            << c.list << " " << c.name << " " << c.checked;
+        EXPECT_EQ(PauserLists::toggled(c[0], c[1], *c[2] != 0), QString(c[3])) << c[0] << c[1];
 }
-
-// ---------------------------------------------------------------- on the controller
 
 using controller_test::ControllerTest;
 
-class TrayOnController : public ControllerTest
-{
-protected:
-    TrayIcon* tray() { return dynamic_cast<TrayIcon*>(window->tray_icon); }
-};
-
-TEST_F(TrayOnController, TypeEntrySwitchesTheTypeAndTheFileKeepsIt)
+TEST_F(ControllerTest, TrayTypeEntrySwitchesTheTypeAndTheFileKeepsIt)
 {
     store_values["OvraType"] = 1;
     start_settled();
-    ASSERT_TRUE(tray());
-    EXPECT_TRUE(entry(tray()->context_menu(), "&Health")->isChecked());
+    auto* tray = dynamic_cast<TrayIcon*>(window->tray_icon);
+    ASSERT_TRUE(tray);
+    EXPECT_TRUE(entry(tray->context_menu(), "&Health")->isChecked());
 
-    entry(tray()->context_menu(), "&Sunglasses")->trigger();
+    entry(tray->context_menu(), "&Sunglasses")->trigger();
     EXPECT_EQ(stored(SaveKeys::OVRA_TYPE).toInt(), 6);
     EXPECT_EQ(stored(SaveKeys::NIGHT_BRIGHTNESS).toInt(), 75);
     QSettings file(QCoreApplication::organizationName(), SaveManager::store_application_name());
@@ -268,16 +211,8 @@ TEST_F(TrayOnController, TypeEntrySwitchesTheTypeAndTheFileKeepsIt)
 
     // A type chosen on the page moves the menu's mark.
     window->ovra_type_changed(8);
-    EXPECT_TRUE(entry(tray()->context_menu(), "&Movie")->isChecked());
-    EXPECT_FALSE(entry(tray()->context_menu(), "&Sunglasses")->isChecked());
-}
-
-TEST_F(TrayOnController, WithoutATrayTheIconIsNotAWayBack)
-{
-    start();
-    ASSERT_TRUE(window->tray_icon);
-    // No notification area on the test display.
-    EXPECT_FALSE(window->tray_icon->is_visible());
+    EXPECT_TRUE(entry(tray->context_menu(), "&Movie")->isChecked());
+    EXPECT_FALSE(entry(tray->context_menu(), "&Sunglasses")->isChecked());
 }
 
 } // namespace
