@@ -237,7 +237,8 @@ void TrayIcon::show_art(TrayArt art, int angle)
 void TrayIcon::show_icon()
 {
     if (!QSystemTrayIcon::isSystemTrayAvailable())
-        std::cerr << "Ovra: no notification area; closing the settings window ends the program"
+        std::cerr << "Ovra: no notification area yet; until one comes, closing the settings "
+                     "window ends the program"
                   << std::endl;
     show();
 }
