@@ -9,7 +9,8 @@ packages="build-essential cmake ninja-build pkg-config
   libxcb1-dev libxcb-randr0-dev libxss-dev libx11-dev
   nodejs chromium
   libgtest-dev libgmock-dev libbenchmark-dev
-  xvfb xauth x11-xserver-utils x11-utils xserver-xorg-core xserver-xorg-video-dummy xdotool
+  libayatana-appindicator3-dev
+  xvfb xauth x11-xserver-utils x11-utils xserver-xorg-core xserver-xorg-video-dummy xdotool trayer
   python3"
 missing=""
 for p in $packages; do

@@ -24,6 +24,7 @@
 #include "settings/SettingsHost.h"
 #include "web/PageWindows.h"
 #include "spells/HiddenFeatures.h"
+#include "tray/ITrayIcon.h"
 
 namespace {
 bool setting_true(const std::map<QString, QVariant>& settings, const char* key)
@@ -72,6 +73,7 @@ MainWindow::MainWindow(QObject* parent)
     refresh_preserve_gamma();
 
     setup_timers();
+    setup_tray_icon();
     setup_signal_handlers();
     check_for_first_start();
     setup_ovra_icon();
@@ -89,6 +91,8 @@ MainWindow::MainWindow(QObject* parent)
 
 MainWindow::~MainWindow()
 {
+    delete tray_icon;
+    tray_icon = nullptr;
     delete hotkey_processor;
     if (gamma) {
         restore_gamma();

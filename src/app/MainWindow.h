@@ -28,6 +28,7 @@ class IColorTriggers;
 class IRestTimer;
 class IScreenOverlays;
 class ITrayIcon;
+struct TrayHost;
 class OnlineState;
 struct SolarInterpolationValues;
 struct ClockInterpolationValues;
@@ -711,4 +712,22 @@ signals:
     // No page listens to these two.
     void brightness_change(int value);
     void screen_image(QString img);
+
+    // The tray ------------------------------------------------------------------
+    // The icon in the notification area: its backend, and the hooks its menu
+    // and its icon reach the controller through. Bodies in MainWindowTray.cpp;
+    // the backends in src/tray and, for Unity, the plugin in src/trayplugin.
+public slots:
+    bool is_ovra_loaded();
+    void show_tray_icon_message(QString title, QString text);
+    void show_tray_icon_context_menu();
+
+private:
+    void setup_tray_icon();
+    TrayHost tray_host();
+    bool tray_colors_changing();
+    // The values the tray saw last, to tell whether the colours move.
+    int tray_seen_temperature = -1;
+    int tray_seen_brightness = -1;
+    // End of The tray -----------------------------------------------------------
 };
