@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <iostream>
 
+#include "app/ControllerSpellTarget.h"
 #include "app/ExitGuard.h"
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
@@ -56,7 +57,8 @@ MainWindow::MainWindow(QObject* parent)
         create_ovra_ui();
 
     translator = new Translator(this);
-    hidden_features = new HiddenFeatures();
+    spell_target = new ControllerSpellTarget(this);
+    hidden_features = new HiddenFeatures(spell_target);
     features_settings =
         new FeaturesSettings(settings[QString::fromLatin1(SaveKeys::UNUSED_PAGES)].toList());
 
@@ -96,6 +98,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    delete spell_target;
     delete features_settings;
     delete tick;
     delete curve;
@@ -188,9 +191,4 @@ void MainWindow::setup_signal_handlers()
         if (!quitting)
             save_on_the_way_out();
     });
-}
-
-void MainWindow::update_ui()
-{
-    process_curve_files();
 }
