@@ -1,0 +1,171 @@
+// What the page's status line and the tray's tooltip say once a second, with
+// a rest timer and a tray icon that only write down what they are asked.
+#include <gtest/gtest.h>
+
+#include "ControllerFixture.h"
+#include "breaks/IRestTimer.h"
+#include "tray/ITrayIcon.h"
+
+namespace {
+
+using namespace controller_test;
+
+struct FakeTimer : IRestTimer
+{
+    bool paused = false;
+    int work_ms = 0;
+    int rest_ms = 0;
+    QString big_rest;
+    int bips = 0;
+
+    bool is_rest_started() const override { return work_ms < 1; }
+    void start_rest_timer() override {}
+    void stop_rest_timer() override {}
+    void reset_timer() override {}
+    void set_timer_type(int) override {}
+    void set_rest_screen_type(int) override {}
+    void start_rest() override {}
+    bool is_paused() const override { return paused; }
+    int get_remaining_work_int() const override { return work_ms; }
+    int get_remaining_rest_int() const override { return rest_ms; }
+    QString get_remaining_work_string() const override { return "12:34"; }
+    QString get_remaining_rest_string() const override { return "0:45"; }
+    void start_bip_sound() override { ++bips; }
+    bool is_rest_coming(QString& message) override
+    {
+        message = big_rest;
+        return !big_rest.isEmpty();
+    }
+};
+
+struct FakeTray : ITrayIcon
+{
+    QString tooltip;
+    QStringList messages;
+    int icon_updates = 0;
+
+    void show_icon() override {}
+    bool is_visible() const override { return true; }
+    void refresh_selected_type() override {}
+    void refresh_selected_mode() override {}
+    void refresh_tray_icon_actions() override {}
+    void refresh_tray_icon_menu() override {}
+    void refresh_pausers_actions() override {}
+    void update_tray_icon(bool) override { ++icon_updates; }
+    void set_tooltip(const QString& text) override { tooltip = text; }
+    void show_message(const QString& title, const QString& text) override { messages << title + ": " + text; }
+};
+
+class StatusTexts : public ControllerTest
+{
+protected:
+    void start_with_parts(bool loaded)
+    {
+        // Monitor 2 has values of its own; monitor 1 takes the plain ones.
+        store_values["NightTemperature2"] = 2900;
+        store_values["NightBrightness2"] = 70;
+        MainWindow::screen_count_override = 2;
+        start_settled();
+        window->rest_timer = &timer;
+        window->tray_icon = &tray;
+        if (loaded)
+            window->load_finished();
+        // The timer starts paused until the breaks are set up.
+        window->settings["TimerPaused"] = false;
+    }
+    void TearDown() override
+    {
+        if (window) {
+            window->rest_timer = nullptr;
+            window->tray_icon = nullptr;
+        }
+        ControllerTest::TearDown();
+    }
+
+    FakeTimer timer;
+    FakeTray tray;
+};
+
+TEST_F(StatusTexts, TooltipStatusAndTimeOfEachState)
+{
+    enum Timer { NONE, WORK, REST, TIMER_PAUSED, PAUSED_BY_SETTING };
+    struct Row { bool per_monitor; Timer timer; bool ovra_paused; const char* tooltip; const char* page; };
+    const Row rows[] = {
+        {false, NONE, false, "3400K / 80%", "set_timer_message=|set_ovra_status=3400K / 80%"},
+        {false, WORK, false, "3400K / 80% / 12:34 until rest",
+         "set_remaining_time=12:34:until:rest|set_ovra_status=3400K / 80%"},
+        {false, REST, false, "3400K / 80% / 0:45 until work",
+         "set_remaining_time=0:45:until:work|set_ovra_status=3400K / 80%"},
+        {true, WORK, false, "3400K / 80% | 2900K / 70% / 12:34 until rest",
+         "set_remaining_time=12:34:until:rest|set_ovra_status=3400K / 80% | 2900K / 70%"},
+        {true, TIMER_PAUSED, false, "3400K / 80% | 2900K / 70%",
+         "set_timer_message=|set_ovra_status=3400K / 80% | 2900K / 70%"},
+        {false, PAUSED_BY_SETTING, true, "3400K / 80%", "set_timer_message=|set_ovra_status=Paused"},
+    };
+    for (const Row& row : rows) {
+        start_with_parts(true);
+        window->settings["UsePerMonitorSettings"] = row.per_monitor;
+        window->settings["OvraPaused"] = row.ovra_paused;
+        window->settings["TimerPaused"] = row.timer == PAUSED_BY_SETTING;
+        timer.paused = row.timer == TIMER_PAUSED;
+        timer.work_ms = row.timer == REST ? 0 : 754000;
+        timer.rest_ms = row.timer == REST ? 45000 : -1;
+        if (row.timer == NONE)
+            window->rest_timer = nullptr;
+        PageLog page(window.get(), {"set_remaining_time", "set_timer_message", "set_ovra_status"});
+        const int icon_updates = tray.icon_updates;
+        window->update_ui();
+        EXPECT_EQ(tray.tooltip, row.tooltip) << row.tooltip;
+        EXPECT_EQ(page.entries.join('|'), row.page) << row.tooltip;
+        EXPECT_EQ(tray.icon_updates, icon_updates + 1);
+        TearDown();
+        SetUp();
+    }
+}
+
+TEST_F(StatusTexts, BeforeThePageHasLoadedOnlyTheTrayHears)
+{
+    start_with_parts(false);
+    timer.work_ms = 754000;
+    PageLog page(window.get());
+    window->update_ui();
+    EXPECT_TRUE(page.entries.filter(QRegularExpression("^set_(remaining_time|timer_message|ovra_status)=")).isEmpty());
+    EXPECT_EQ(tray.tooltip, "3400K / 80% / 12:34 until rest");
+    EXPECT_EQ(tray.icon_updates, 1);
+}
+
+TEST_F(StatusTexts, TheLastSecondsBeepWithSoundsAndABigRestIsAnnounced)
+{
+    start_with_parts(true);
+    struct Row { int work_ms; int rest_ms; bool sounds; int bips; };
+    const Row rows[] = {
+        {3000, -1, true, 0}, {2999, -1, true, 1}, {2999, -1, false, 0}, {0, 3000, true, 0},
+        {0, 2999, true, 1}, {0, -1, true, 1},
+    };
+    for (const Row& row : rows) {
+        timer.bips = 0;
+        timer.work_ms = row.work_ms;
+        timer.rest_ms = row.rest_ms;
+        window->settings["UseSounds"] = row.sounds;
+        window->update_ui();
+        EXPECT_EQ(timer.bips, row.bips) << row.work_ms << ' ' << row.rest_ms;
+    }
+    timer.work_ms = 60000;
+    timer.big_rest = "Ovra reminds you that a big rest will occur in 30 seconds.";
+    window->update_ui();
+    EXPECT_EQ(tray.messages,
+              QStringList{"Big rest incoming: Ovra reminds you that a big rest will occur in 30 seconds."});
+}
+
+TEST_F(StatusTexts, ANewMonitorIsToldToThePage)
+{
+    start_with_parts(true);
+    window->update_ui();
+    PageLog page(window.get(), {"set_screen_count"});
+    MainWindow::screen_count_override = 3;
+    window->update_ui();
+    window->update_ui();
+    EXPECT_EQ(page.entries, QStringList{"set_screen_count=3"});
+}
+
+} // namespace
