@@ -19,32 +19,26 @@ QString number(int value)
 
 HiddenFeatures::HiddenFeatures(ISpellTarget* target, QObject* parent)
     : QObject(parent), target(target)
-{
-}
+{}
 
 bool HiddenFeatures::activate_hidden_feature(const std::string& hidden_feature)
 {
     const Tokenizer words(hidden_feature, false);
-    bool matched = false;
+    const SpellRow* found = nullptr;
     for (const SpellRow& row : spell_table()) {
         for (const char* form : row.forms)
-            if (form && words.match(form)) {
-                matched = true;
-                break;
-            }
-        if (matched) {
-            if (row.spell == Spell::FixedPage)
-                target->open_url(QString::fromLatin1(row.address));
-            else
-                run(row.spell, words, hidden_feature);
+            if (form && words.match(form))
+                found = &row;
+        if (found)
             break;
-        }
     }
-    if (!matched)
+    if (found)
+        run(*found, words, hidden_feature);
+    else
         report_invalid_spell(hidden_feature);
     // Whatever came of it, the store ends up holding every setting.
     target->save_settings();
-    return matched;
+    return found != nullptr;
 }
 
 void HiddenFeatures::show_hidden_features_notification(const QString& title, const QString& text)
@@ -59,17 +53,18 @@ void HiddenFeatures::report_invalid_spell(const std::string& hidden_feature)
     qDebug() << tr("Invalid spell:") << spell;
     show_hidden_features_notification(
         tr("Invalid spell"),
-        tr("The spell") + " \"" + spell + "\""
-            + tr(" seems wrong. Check the syntax or try with some other hidden feature.") + "\n"
-            + tr("Use \"help\" to see the list of all hidden features :)"));
+        tr("The spell") + " \"" + spell + "\"" +
+            tr(" seems wrong. Check the syntax or try with some other hidden feature.") + "\n" +
+            tr("Use \"help\" to see the list of all hidden features :)"));
 }
 
 // A value is the spell's last word, a switch its first.
-void HiddenFeatures::run(Spell spell, const Tokenizer& words, const std::string& hidden_feature)
+void HiddenFeatures::run(const SpellRow& row, const Tokenizer& words,
+                         const std::string& hidden_feature)
 {
     const int last = words.size() - 1;
     const bool enable = words.Bool(0);
-    switch (spell) {
+    switch (row.spell) {
     case Spell::Help: target->open_spells_help(); break;
     case Spell::Open: target->bring_to_front(); break;
     // Without a qualifier a value means the night.
@@ -91,7 +86,9 @@ void HiddenFeatures::run(Spell spell, const Tokenizer& words, const std::string&
     case Spell::InvertColors: process_invert_colors(); break;
     case Spell::ZeroBlueLight: process_zero_blue_light(); break;
     case Spell::PreserveGamma: process_preserve_gamma(enable); break;
-    case Spell::UseHiddenFeaturesNotifications: process_use_hidden_features_notifications(enable); break;
+    case Spell::UseHiddenFeaturesNotifications:
+        process_use_hidden_features_notifications(enable);
+        break;
     case Spell::UseManualLocation: process_use_manual_location(enable); break;
     case Spell::SetLatitude: process_latitude(words.Float(last)); break;
     case Spell::SetLongitude: process_longitude(words.Float(last)); break;
@@ -104,17 +101,24 @@ void HiddenFeatures::run(Spell spell, const Tokenizer& words, const std::string&
     case Spell::UseManualNightDuration: process_use_manual_night_duration(enable); break;
     case Spell::SetNightStartTime: process_set_night_start_time(words.Int(last)); break;
     case Spell::SetNightEndTime: process_set_night_end_time(words.Int(last)); break;
-    case Spell::EnableConflictingApplications: process_enable_conflicting_applications(enable); break;
-    case Spell::EnablePage: process_enable_page(enable, QString::fromStdString(words.String(2))); break;
+    case Spell::EnableConflictingApplications:
+        process_enable_conflicting_applications(enable);
+        break;
+    case Spell::EnablePage:
+        process_enable_page(enable, QString::fromStdString(words.String(2)));
+        break;
     case Spell::EnablePageOfTwoWords:
-        process_enable_page(enable, QString::fromStdString(words.String(2) + ' ' + words.String(3)));
+        process_enable_page(enable,
+                            QString::fromStdString(words.String(2) + ' ' + words.String(3)));
         break;
     case Spell::UseGhostIcon: target->use_ghost_icon_changed(enable); break;
     case Spell::AllowMultipleInstances: target->allow_multiple_instances_changed(enable); break;
     case Spell::UseKeyboardHook: process_enable_keyboard_hook(enable); break;
     case Spell::Import: target->import_settings(); break;
     // The word arrives lower-cased, as every spell does.
-    case Spell::ImportString: target->import_settings_from_string(QString::fromStdString(words.String(1))); break;
+    case Spell::ImportString:
+        target->import_settings_from_string(QString::fromStdString(words.String(1)));
+        break;
     case Spell::Export: target->export_settings(); break;
     case Spell::ExportString: target->export_settings_as_string(); break;
     case Spell::SetUiScale: process_set_ui_scale(words.Int(last)); break;
@@ -125,7 +129,7 @@ void HiddenFeatures::run(Spell spell, const Tokenizer& words, const std::string&
     case Spell::CreateShortcutsAutomatically:
     case Spell::UseInvertedIcons:
     case Spell::Deadpoll: break;
-    case Spell::FixedPage: break;
+    case Spell::FixedPage: target->open_url(QString::fromLatin1(row.address)); break;
     }
 }
 
@@ -143,7 +147,8 @@ void HiddenFeatures::notify_switch(bool enable, const QString& on_title, const Q
 void HiddenFeatures::process_reset_colors()
 {
     target->reset_colors();
-    show_hidden_features_notification(tr("Reset colors"), tr("Screen colors are reset to default values"));
+    show_hidden_features_notification(tr("Reset colors"),
+                                      tr("Screen colors are reset to default values"));
 }
 
 // The store only: the closing save writes the running values back into the
@@ -151,7 +156,8 @@ void HiddenFeatures::process_reset_colors()
 void HiddenFeatures::process_reset_settings()
 {
     target->reset_settings_in_store();
-    show_hidden_features_notification(tr("Reset settings"), tr("Ovra settings are reset to default values"));
+    show_hidden_features_notification(tr("Reset settings"),
+                                      tr("Ovra settings are reset to default values"));
 }
 
 // A second cast inverts back; the text stays the same.
@@ -165,18 +171,20 @@ void HiddenFeatures::process_zero_blue_light()
 {
     target->day_temperature_changed(0);
     target->night_temperature_changed(0);
-    show_hidden_features_notification(tr("Zero blue light"), tr("All blue light is removed from the screen"));
+    show_hidden_features_notification(tr("Zero blue light"),
+                                      tr("All blue light is removed from the screen"));
 }
 
 void HiddenFeatures::process_preserve_gamma(bool enable)
 {
     target->preserve_gamma_changed(enable);
-    notify_switch(enable, tr("Gamma preservation enabled"),
-                  tr("Ovra will respect your color calibration from now on. Close and start Ovra mini "
-                     "again and it will preserve your colors during the day"),
-                  tr("Gamma preservation disabled"),
-                  tr("Ovra will not respect your color calibration from now on. It will use the "
-                     "default monitor settings instead"));
+    notify_switch(
+        enable, tr("Gamma preservation enabled"),
+        tr("Ovra will respect your color calibration from now on. Close and start Ovra mini "
+           "again and it will preserve your colors during the day"),
+        tr("Gamma preservation disabled"),
+        tr("Ovra will not respect your color calibration from now on. It will use the "
+           "default monitor settings instead"));
 }
 
 // The cursor spells tell first, then act.
@@ -207,14 +215,15 @@ void HiddenFeatures::process_use_gamma_fixer(bool enable)
 {
     target->use_gamma_fixer_changed(enable);
     target->save_settings();
-    notify_switch(enable, tr("Gamma fixer enabled"),
-                  tr("Gamma fixer is enabled. If notice slight color changing every second disable "
-                     "the Gamma fixer again. Gamma fixer is used, because Windows decides to ignore "
-                     "Ovra mini changes from time to time."),
-                  tr("Gamma fixer disabled"),
-                  tr("Gamma fixer is disabled. If your screen suddenly becomes bright enable it "
-                     "again or click the Ovra mini icon several times. Both should force Ovra to "
-                     "change the screen colors."));
+    notify_switch(
+        enable, tr("Gamma fixer enabled"),
+        tr("Gamma fixer is enabled. If notice slight color changing every second disable "
+           "the Gamma fixer again. Gamma fixer is used, because Windows decides to ignore "
+           "Ovra mini changes from time to time."),
+        tr("Gamma fixer disabled"),
+        tr("Gamma fixer is disabled. If your screen suddenly becomes bright enable it "
+           "again or click the Ovra mini icon several times. Both should force Ovra to "
+           "change the screen colors."));
 }
 
 void HiddenFeatures::process_ignore_monitor_changed(int monitor, bool ignore)
@@ -222,12 +231,12 @@ void HiddenFeatures::process_ignore_monitor_changed(int monitor, bool ignore)
     target->ignore_monitor_changed(monitor, ignore);
     if (ignore)
         show_hidden_features_notification(tr("Monitor") + " " + number(monitor) + tr(" disabled"),
-                                          tr("Ovra will not apply color changes to Monitor") + " "
-                                              + number(monitor));
+                                          tr("Ovra will not apply color changes to Monitor") + " " +
+                                              number(monitor));
     else
         show_hidden_features_notification(tr("Monitor") + " " + number(monitor) + tr(" enabled"),
-                                          tr("Ovra will apply color changes to Monitor") + " "
-                                              + number(monitor));
+                                          tr("Ovra will apply color changes to Monitor") + " " +
+                                              number(monitor));
 }
 
 // ---------------------------------------------------------------- modes and place
@@ -257,8 +266,8 @@ void HiddenFeatures::process_use_manual_location(bool enable)
 void HiddenFeatures::process_use_manual_brightness(bool enable)
 {
     target->use_manual_brightness_changed(enable);
-    notify_switch(enable, tr("Manual brightness enabled"), tr("You are now using Ovra mini Mixed mode"),
-                  tr("Manual brightness disabled"),
+    notify_switch(enable, tr("Manual brightness enabled"),
+                  tr("You are now using Ovra mini Mixed mode"), tr("Manual brightness disabled"),
                   tr("Ovra mini will use your selected mode for brightness again"));
 }
 
@@ -274,17 +283,17 @@ void HiddenFeatures::process_use_manual_temperature(bool enable)
 void HiddenFeatures::process_latitude(float value)
 {
     target->latitude_changed(value);
-    show_hidden_features_notification(tr("Latitude changed"), tr("Latitude changed to") + " "
-                                                                  + QString::number(value)
-                                                                  + QChar(0x00B0));
+    show_hidden_features_notification(tr("Latitude changed"), tr("Latitude changed to") + " " +
+                                                                  QString::number(value) +
+                                                                  QChar(0x00B0));
 }
 
 void HiddenFeatures::process_longitude(float value)
 {
     target->longitude_changed(value);
-    show_hidden_features_notification(tr("Longitude changed"), tr("Longitude changed to") + " "
-                                                                   + QString::number(value)
-                                                                   + QChar(0x00B0));
+    show_hidden_features_notification(tr("Longitude changed"), tr("Longitude changed to") + " " +
+                                                                   QString::number(value) +
+                                                                   QChar(0x00B0));
 }
 
 // ---------------------------------------------------------------- the program
@@ -326,10 +335,11 @@ void HiddenFeatures::process_use_spinning_tray_icon(bool enable)
 void HiddenFeatures::process_enable_keyboard_hook(bool enable)
 {
     target->use_keyboard_hook_changed(enable);
-    notify_switch(enable, tr("Keyboard Hook enabled"),
-                  tr("Keyboard Hook enabled. You can now use system-wide shortcuts."),
-                  tr("Keyboard Hook disabled"),
-                  tr("Keyboard Hook disabled. Some shortcuts and features may not work as intended"));
+    notify_switch(
+        enable, tr("Keyboard Hook enabled"),
+        tr("Keyboard Hook enabled. You can now use system-wide shortcuts."),
+        tr("Keyboard Hook disabled"),
+        tr("Keyboard Hook disabled. Some shortcuts and features may not work as intended"));
 }
 
 void HiddenFeatures::process_enable_conflicting_applications(bool enable)
@@ -364,27 +374,30 @@ bool HiddenFeatures::value_in_range(int value, unsigned low, unsigned high,
 
 void HiddenFeatures::process_set_day_temperature_feature(int value)
 {
-    if (!value_in_range(value, 0, 10000, tr("Invalid value for temperature:"), tr("Invalid temperature"),
-                        tr("is invalid value for Color temperature. Use number between 0 and 10000.")))
+    if (!value_in_range(
+            value, 0, 10000, tr("Invalid value for temperature:"), tr("Invalid temperature"),
+            tr("is invalid value for Color temperature. Use number between 0 and 10000.")))
         return;
     target->day_temperature_changed(value);
-    show_hidden_features_notification(tr("Temperature changed"),
-                                      tr("Color temperature changed to") + " " + number(value) + "K");
+    show_hidden_features_notification(
+        tr("Temperature changed"), tr("Color temperature changed to") + " " + number(value) + "K");
 }
 
 void HiddenFeatures::process_set_night_temperature_feature(int value)
 {
-    if (!value_in_range(value, 0, 10000, tr("Invalid value for temperature:"), tr("Invalid temperature"),
-                        tr("is invalid value for Color temperature. Use number between 0 and 10000.")))
+    if (!value_in_range(
+            value, 0, 10000, tr("Invalid value for temperature:"), tr("Invalid temperature"),
+            tr("is invalid value for Color temperature. Use number between 0 and 10000.")))
         return;
     target->night_temperature_changed(value);
-    show_hidden_features_notification(tr("Temperature changed"),
-                                      tr("Color temperature changed to") + " " + number(value) + "K");
+    show_hidden_features_notification(
+        tr("Temperature changed"), tr("Color temperature changed to") + " " + number(value) + "K");
 }
 
 void HiddenFeatures::process_set_day_brightness_feature(int value)
 {
-    if (!value_in_range(value, 10, 100, tr("Invalid value for brightness:"), tr("Invalid brightness"),
+    if (!value_in_range(value, 10, 100, tr("Invalid value for brightness:"),
+                        tr("Invalid brightness"),
                         tr("is invalid value for Brightness. Use number between 10 and 100.")))
         return;
     target->day_brightness_changed(value);
@@ -394,7 +407,8 @@ void HiddenFeatures::process_set_day_brightness_feature(int value)
 
 void HiddenFeatures::process_set_night_brightness_feature(int value)
 {
-    if (!value_in_range(value, 10, 100, tr("Invalid value for brightness:"), tr("Invalid brightness"),
+    if (!value_in_range(value, 10, 100, tr("Invalid value for brightness:"),
+                        tr("Invalid brightness"),
                         tr("is invalid value for Brightness. Use number between 10 and 100.")))
         return;
     target->night_brightness_changed(value);
@@ -410,7 +424,8 @@ void HiddenFeatures::process_set_night_start_time(int value)
         return;
     target->night_start_time_changed(value);
     show_hidden_features_notification(tr("Night start time changed"),
-                                      tr("Manual night start time changed to") + " " + number(value) + "h");
+                                      tr("Manual night start time changed to") + " " +
+                                          number(value) + "h");
 }
 
 void HiddenFeatures::process_set_night_end_time(int value)
@@ -421,5 +436,6 @@ void HiddenFeatures::process_set_night_end_time(int value)
         return;
     target->night_end_time_changed(value);
     show_hidden_features_notification(tr("Night end time changed"),
-                                      tr("Manual night end time changed to") + " " + number(value) + "h");
+                                      tr("Manual night end time changed to") + " " + number(value) +
+                                          "h");
 }

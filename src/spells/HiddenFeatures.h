@@ -25,7 +25,7 @@ public:
     void show_hidden_features_notification(const QString& title, const QString& text);
 
 private:
-    void run(Spell spell, const Tokenizer& words, const std::string& hidden_feature);
+    void run(const SpellRow& row, const Tokenizer& words, const std::string& hidden_feature);
     void report_invalid_spell(const std::string& hidden_feature);
 
     void process_reset_colors();

@@ -53,7 +53,10 @@ struct FakeTray : ITrayIcon
     void refresh_pausers_actions() override {}
     void update_tray_icon(bool) override { ++icon_updates; }
     void set_tooltip(const QString& text) override { tooltip = text; }
-    void show_message(const QString& title, const QString& text) override { messages << title + ": " + text; }
+    void show_message(const QString& title, const QString& text) override
+    {
+        messages << title + ": " + text;
+    }
 };
 
 class StatusTexts : public ControllerTest
@@ -89,7 +92,14 @@ protected:
 TEST_F(StatusTexts, TooltipStatusAndTimeOfEachState)
 {
     enum Timer { NONE, WORK, REST, TIMER_PAUSED, PAUSED_BY_SETTING };
-    struct Row { bool per_monitor; Timer timer; bool ovra_paused; const char* tooltip; const char* page; };
+    struct Row
+    {
+        bool per_monitor;
+        Timer timer;
+        bool ovra_paused;
+        const char* tooltip;
+        const char* page;
+    };
     const Row rows[] = {
         {false, NONE, false, "3400K / 80%", "set_timer_message=|set_ovra_status=3400K / 80%"},
         {false, WORK, false, "3400K / 80% / 12:34 until rest",
@@ -129,7 +139,8 @@ TEST_F(StatusTexts, BeforeThePageHasLoadedOnlyTheTrayHears)
     timer.work_ms = 754000;
     PageLog page(window.get());
     window->update_ui();
-    EXPECT_TRUE(page.entries.filter(QRegularExpression("^set_(remaining_time|timer_message|ovra_status)=")).isEmpty());
+    const QRegularExpression status("^set_(remaining_time|timer_message|ovra_status)=");
+    EXPECT_TRUE(page.entries.filter(status).isEmpty());
     EXPECT_EQ(tray.tooltip, "3400K / 80% / 12:34 until rest");
     EXPECT_EQ(tray.icon_updates, 1);
 }
@@ -154,7 +165,8 @@ TEST_F(StatusTexts, TheLastSecondsBeepWithSoundsAndABigRestIsAnnounced)
     timer.big_rest = "Ovra reminds you that a big rest will occur in 30 seconds.";
     window->update_ui();
     EXPECT_EQ(tray.messages,
-              QStringList{"Big rest incoming: Ovra reminds you that a big rest will occur in 30 seconds."});
+              QStringList{"Big rest incoming: "
+                          "Ovra reminds you that a big rest will occur in 30 seconds."});
 }
 
 TEST_F(StatusTexts, ANewMonitorIsToldToThePage)

@@ -52,7 +52,10 @@ public:
     void use_software_cursor_changed(bool v) override { note("software_cursor", v); }
     void use_gamma_fixer_changed(bool v) override { note("gamma_fixer", v); }
     void start_on_startup_changed(bool v) override { note("startup", v); }
-    void ignore_monitor_changed(int m, bool i) override { note("ignore_monitor", QString("%1 %2").arg(m).arg(QVariant(i).toString())); }
+    void ignore_monitor_changed(int m, bool i) override
+    {
+        note("ignore_monitor", QString::number(m) + ' ' + QVariant(i).toString());
+    }
     void reset_colors() override { note("reset_colors"); }
     void toggle_inverted_gamma() override { note("invert"); }
     void reset_settings_in_store() override { note("reset_store"); }
@@ -67,7 +70,10 @@ public:
     void use_keyboard_hook_changed(bool v) override { note("keyboard_hook", v); }
     void enable_conflicting_applications_changed(bool v) override { note("conflicting", v); }
     void ui_scale_changed(int v) override { note("ui_scale", v); }
-    void enable_page(bool e, const QString& p) override { note("page", QVariant(e).toString() + ' ' + p); }
+    void enable_page(bool e, const QString& p) override
+    {
+        note("page", QVariant(e).toString() + ' ' + p);
+    }
     void import_settings() override { note("import"); }
     void import_settings_from_string(const QString& t) override { note("import_string", t); }
     void export_settings() override { note("export"); }
@@ -106,7 +112,8 @@ TEST_F(Spells, EachSpellReachesItsHandler)
         {"SB 50", "night_brightness 50"}, {"sdb 90", "day_brightness 90"},
         {"set night brightness to 10", "night_brightness 10"},
         {"on gamma fixer", "gamma_fixer true"}, {"stop start at startup", "startup false"},
-        {"yes tray icon rotation", "spinning true"}, {"use manual temperature", "manual_temperature true"},
+        {"yes tray icon rotation", "spinning true"},
+        {"use manual temperature", "manual_temperature true"},
         {"off manual brightness", "manual_brightness false"},
         {"enable monitor 2", "ignore_monitor 2 false"}, {"disable monitor 0", "ignore_monitor 0 true"},
         {"reset", "reset_colors"}, {"reset colors", "reset_colors"}, {"reset settings", "reset_store"},
@@ -114,11 +121,13 @@ TEST_F(Spells, EachSpellReachesItsHandler)
         {"disable gamma preservation", "preserve_gamma false"},
         {"on manual location", "manual_location true"}, {"set latitude to 51", "latitude 51"},
         {"set longitude to -0.5", "longitude -0.5"},
-        {"enable software mouse", "software_cursor true"}, {"no software cursor", "software_cursor false"},
+        {"enable software mouse", "software_cursor true"},
+        {"no software cursor", "software_cursor false"},
         {"true manual night duration", "manual_night true"},
         {"set night start time to 21", "night_start 21"}, {"set night end time to 7", "night_end 7"},
         {"halt conflicting applications", "conflicting false"},
-        {"disable page moon", "page false moon"}, {"enable page Color Triggers", "page true color triggers"},
+        {"disable page moon", "page false moon"},
+        {"enable page Color Triggers", "page true color triggers"},
         {"on ghost icon", "ghost true"}, {"on multiple instances", "multiple true"},
         {"off keyboard hook", "keyboard_hook false"},
         {"import", "import"}, {"import AbC=1", "import_string abc=1"}, {"export", "export"},
@@ -212,9 +221,11 @@ TEST_F(Spells, MessagesFollowTheirSwitchAndSomeComeFirst)
     cast("enable hidden features notifications");
     EXPECT_TRUE(messages().isEmpty());
     cast("disable monitor 3");
-    EXPECT_EQ(messages(), QStringList{"message Monitor 3 disabled | Ovra will not apply color changes to Monitor 3"});
+    EXPECT_EQ(messages(), QStringList{"message Monitor 3 disabled | "
+                                      "Ovra will not apply color changes to Monitor 3"});
     cast("set latitude to 51.5");
-    EXPECT_EQ(messages(), QStringList{QString("message Latitude changed | Latitude changed to 51.5") + QChar(0x00B0)});
+    EXPECT_EQ(messages(), QStringList{QString("message Latitude changed | Latitude changed to 51.5")
+                                      + QChar(0x00B0)});
 }
 
 TEST(SpellHelp, TheProgramsPageIsTheTablesPage)

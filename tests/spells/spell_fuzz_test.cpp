@@ -117,7 +117,8 @@ TEST_F(SpellsInTheController, TenThousandRandomLinesChangeOnlyWhatTheirSpellIsAb
     // A matched spell may change these; per monitor values change with the
     // plain key as monitor 0, and the advanced view keeps its shadows.
     const std::map<Spell, std::set<QString>> allowed = {
-        {Spell::SetTemperature, {"NightTemperature"}}, {Spell::SetNightTemperature, {"NightTemperature"}},
+        {Spell::SetTemperature, {"NightTemperature"}},
+        {Spell::SetNightTemperature, {"NightTemperature"}},
         {Spell::SetDayTemperature, {"DayTemperature"}}, {Spell::SetBrightness, {"NightBrightness"}},
         {Spell::SetNightBrightness, {"NightBrightness"}}, {Spell::SetDayBrightness, {"DayBrightness"}},
         {Spell::ZeroBlueLight, {"DayTemperature", "NightTemperature"}},
@@ -134,7 +135,8 @@ TEST_F(SpellsInTheController, TenThousandRandomLinesChangeOnlyWhatTheirSpellIsAb
         {Spell::SetNightStartTime, {"NightStartTimeHours", "NightStartTimeMinutes"}},
         {Spell::SetNightEndTime, {"NightEndTimeHours", "NightEndTimeMinutes"}},
         {Spell::EnableConflictingApplications, {"EnableConflictingApplications"}},
-        {Spell::UseGhostIcon, {"UseGhostIcon"}}, {Spell::AllowMultipleInstances, {"AllowMultipleInstances"}},
+        {Spell::UseGhostIcon, {"UseGhostIcon"}},
+        {Spell::AllowMultipleInstances, {"AllowMultipleInstances"}},
         {Spell::UseKeyboardHook, {"UseKeyboardHook"}}, {Spell::SetUiScale, {"UiScale"}},
         {Spell::InvertColors, {"UseInvertedColors"}},
     };
@@ -145,7 +147,8 @@ TEST_F(SpellsInTheController, TenThousandRandomLinesChangeOnlyWhatTheirSpellIsAb
         // places, half are runs of random words.
         std::vector<std::string> line_words;
         if (pick(2) == 0) {
-            const SpellRow& row = spell_table()[static_cast<size_t>(pick(static_cast<int>(spell_table().size())))];
+            const auto& table = spell_table();
+            const SpellRow& row = table[static_cast<size_t>(pick(static_cast<int>(table.size())))];
             std::istringstream form(row.forms[0]);
             std::string word;
             while (form >> word)
