@@ -13,19 +13,15 @@ class SpellsFromASecondLaunch(OvraTestCase):
 
     def setUp(self):
         super().setUp()
-        self.write_config({
-            "SaveVersion": 3,
-            "UseManualColorSettings": "true",
-            "UseManualBrightness": "true",
-            "NightTemperature": 3400,
-            "NightBrightness": 80,
-            "DayTemperature": 6500,
-            "PauseTransitionDuration": 0,
-        })
+        self.write_config({"SaveVersion": 3, "UseManualColorSettings": "true",
+                           "UseManualBrightness": "true", "NightTemperature": 3400,
+                           "NightBrightness": 80, "DayTemperature": 6500,
+                           "PauseTransitionDuration": 0})
         self.first = self.start()
         self.wait_for_tint()
 
     def cast(self, *words):
+        """Hands the words to the running one and waits until it printed them."""
         second = subprocess.run([BINARY, *words], env=self.env, cwd=self.home,
                                 capture_output=True, text=True, timeout=20)
         self.assertEqual(second.returncode, 0, second.stderr)
