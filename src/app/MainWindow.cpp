@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <iostream>
 
+#include "app/ControllerSpellTarget.h"
 #include "app/ExitGuard.h"
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
@@ -59,7 +60,8 @@ MainWindow::MainWindow(QObject* parent)
     setup_hotkeys();
 
     translator = new Translator(this);
-    hidden_features = new HiddenFeatures();
+    spell_target = new ControllerSpellTarget(this);
+    hidden_features = new HiddenFeatures(spell_target);
     features_settings =
         new FeaturesSettings(settings[QString::fromLatin1(SaveKeys::UNUSED_PAGES)].toList());
 
@@ -103,6 +105,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    delete spell_target;
     delete features_settings;
     delete tick;
     delete curve;
@@ -195,9 +198,4 @@ void MainWindow::setup_signal_handlers()
         if (!quitting)
             save_on_the_way_out();
     });
-}
-
-void MainWindow::update_ui()
-{
-    process_curve_files();
 }

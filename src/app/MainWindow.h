@@ -18,6 +18,7 @@
 #include "web/OvraWindow.h"
 
 class ColorCurve;
+class ControllerSpellTarget;
 class FeaturesSettings;
 class ColorTick;
 class IGamma;
@@ -730,4 +731,39 @@ private:
     int tray_seen_temperature = -1;
     int tray_seen_brightness = -1;
     // End of The tray -----------------------------------------------------------
+
+    // Spells and the status texts -----------------------------------------------
+    // The spell interpreter's road into the controller (ControllerSpellTarget),
+    // the settings that only spells reach, and what the page and the tray show
+    // of the running state once a second. Bodies in MainWindowSpells.cpp and
+    // MainWindowStatus.cpp; the interpreter and its table in src/spells.
+public slots:
+    // The process watcher has no body on this platform: nothing reads the flag.
+    void refresh_enable_conflicting_applications() {}
+
+public:
+    // Stored by the change rule; the page has no control to move.
+    void use_hidden_features_notifications_changed(bool value);
+    void use_spinning_tray_icon_changed(bool value);
+    void use_ghost_icon_changed(bool value);
+    void allow_multiple_instances_changed(bool value);
+    void use_keyboard_hook_changed(bool value);
+    void enable_conflicting_applications_changed(bool value);
+    void ui_scale_changed(int value);
+
+private:
+    QString status_values();
+    // The status to the page, the icon to the tray; values already worked
+    // out this second may be passed in.
+    void publish_status(const QString* known_values);
+    template <class T>
+    void store_spell_setting(const char* key, const T& value, const Apply& apply = {});
+
+    ControllerSpellTarget* spell_target = nullptr;
+    // Set while a watched application keeps the work timer stopped.
+    bool timer_auto_paused = false;
+    SettingRef timer_paused_setting{settings, SaveKeys::IS_TIMER_PAUSED};
+    SettingRef use_sounds_setting{settings, SaveKeys::USE_SOUNDS};
+    SettingRef use_per_monitor_setting{settings, SaveKeys::USE_PER_MONITOR_SETTINGS};
+    // End of Spells and the status texts ---------------------------------------
 };

@@ -90,8 +90,11 @@ void MainWindow::open_welcome_link()
 
 // ---------------------------------------------------------------- spells
 
+// An empty box asks for the list of spells.
 void MainWindow::activate_hidden_feature(QString hidden_feature)
 {
+    if (hidden_feature.isEmpty())
+        hidden_feature = QStringLiteral("help");
     hidden_features->activate_hidden_feature(hidden_feature.toUtf8().toStdString());
 }
 

@@ -27,4 +27,6 @@ public:
     virtual QString get_remaining_rest_string() const = 0;
     // The last seconds of a period.
     virtual void start_bip_sound() = 0;
+    // True once, at the moment a big rest is announced, with the message.
+    virtual bool is_rest_coming(QString& message) = 0;
 };

@@ -2,32 +2,14 @@
 // switch and the reset that make them live or not.
 #include "ControllerFixture.h"
 
-#include "breaks/IRestTimer.h"
+#include "FakeRestTimer.h"
 #include "hotkeys/HotkeyProcessor.h"
 #include "hotkeys/QHotkey.h"
 
 namespace controller_test {
 namespace {
 
-class CountingRestTimer : public IRestTimer
-{
-public:
-    bool is_rest_started() const override { return false; }
-    void start_rest_timer() override {}
-    void stop_rest_timer() override {}
-    void reset_timer() override {}
-    void set_timer_type(int) override {}
-    void set_rest_screen_type(int) override {}
-    void start_rest() override { ++rests; }
-    bool is_paused() const override { return false; }
-    int get_remaining_work_int() const override { return 0; }
-    int get_remaining_rest_int() const override { return 0; }
-    QString get_remaining_work_string() const override { return {}; }
-    QString get_remaining_rest_string() const override { return {}; }
-    void start_bip_sound() override {}
-
-    int rests = 0;
-};
+using CountingRestTimer = FakeRestTimer;
 
 using HotkeysInController = ControllerTest;
 
