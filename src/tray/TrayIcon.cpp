@@ -234,12 +234,10 @@ void TrayIcon::show_art(TrayArt art, int angle)
     setIcon(TrayArtEngine::icon(art, angle));
 }
 
+// Without a notification area Qt keeps the icon and shows it once one comes;
+// until then a closed window ends the program, which the close says itself.
 void TrayIcon::show_icon()
 {
-    if (!QSystemTrayIcon::isSystemTrayAvailable())
-        std::cerr << "Ovra: no notification area yet; until one comes, closing the settings "
-                     "window ends the program"
-                  << std::endl;
     show();
 }
 

@@ -17,6 +17,7 @@ TEST_F(HotkeysInController, StartRestReachesTheRestTimer)
 {
     start_settled();
     CountingRestTimer timer;
+    timer.work_ms = 60000; // at work, so a rest can start
     window->rest_timer = &timer;
     window->get_hotkey_processor()->start_rest_hotkey_pressed();
     window->rest_timer = nullptr;
