@@ -33,8 +33,9 @@ class Program:
     """One program started in its own isolated environment; stop() ends it
     and removes its directories."""
 
-    def __init__(self, argv, config=None):
+    def __init__(self, argv, config=None, extra_env=None):
         self.env, self.base = isolated_environment(config)
+        self.env.update(extra_env or {})
         self.process = subprocess.Popen(argv, env=self.env, stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL)
         self.pid = self.process.pid
@@ -115,6 +116,47 @@ def memory_kib(pid):
             if len(parts) >= 2 and parts[0] in ("Rss:", "Pss:"):
                 figures[parts[0][:-1]] = int(parts[1])
     return figures.get("Rss", 0), figures.get("Pss", 0)
+
+
+def descendants(pid):
+    """Every process below `pid`, children first."""
+    parents = {}
+    for name in os.listdir("/proc"):
+        if not name.isdigit():
+            continue
+        try:
+            with open("/proc/%s/stat" % name) as f:
+                parents[int(name)] = int(f.read().rsplit(")", 1)[1].split()[1])
+        except (OSError, IndexError, ValueError):
+            continue
+    found, todo = [], [pid]
+    while todo:
+        parent = todo.pop(0)
+        kids = sorted(child for child, p in parents.items() if p == parent)
+        found += kids
+        todo += kids
+    return found
+
+
+def command_name(pid):
+    try:
+        with open("/proc/%d/comm" % pid) as f:
+            return f.read().strip()
+    except OSError:
+        return "?"
+
+
+def tree_memory_kib(pid):
+    """[(pid, name, RSS, PSS)] of `pid` and every process below it; a process
+    that ends while it is read is left out."""
+    rows = []
+    for member in [pid] + descendants(pid):
+        try:
+            rss, pss = memory_kib(member)
+        except OSError:
+            continue
+        rows.append((member, command_name(member), rss, pss))
+    return rows
 
 
 def median(values):

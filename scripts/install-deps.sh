@@ -6,10 +6,11 @@ packages="build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
   qt6-httpserver-dev qt6-websockets-dev qt6-webchannel-dev qt6-webengine-dev
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev qt6-multimedia-dev
-  libxcb1-dev libxcb-randr0-dev libxss-dev
+  libxcb1-dev libxcb-randr0-dev libxss-dev libx11-dev
   nodejs chromium
   libgtest-dev libgmock-dev libbenchmark-dev
-  xvfb xauth x11-xserver-utils xserver-xorg-core xserver-xorg-video-dummy xdotool
+  libayatana-appindicator3-dev
+  xvfb xauth x11-xserver-utils x11-utils xserver-xorg-core xserver-xorg-video-dummy xdotool trayer
   python3"
 missing=""
 for p in $packages; do

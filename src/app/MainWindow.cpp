@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <iostream>
 
+#include "app/ControllerSpellTarget.h"
 #include "app/ExitGuard.h"
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
@@ -15,6 +16,7 @@
 #include "color/ColorTick.h"
 #include "settings/SaveKeys.h"
 #include "color/IGamma.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "services/OnlineState.h"
 #include "services/Translator.h"
 #include "services/Updater.h"
@@ -24,6 +26,7 @@
 #include "settings/SettingsHost.h"
 #include "web/PageWindows.h"
 #include "spells/HiddenFeatures.h"
+#include "tray/ITrayIcon.h"
 
 namespace {
 bool setting_true(const std::map<QString, QVariant>& settings, const char* key)
@@ -55,9 +58,11 @@ MainWindow::MainWindow(QObject* parent)
     restore_saved_settings();
     if (!setting_true(settings, "OptimizeUiCreation"))
         create_ovra_ui();
+    setup_hotkeys();
 
     translator = new Translator(this);
-    hidden_features = new HiddenFeatures();
+    spell_target = new ControllerSpellTarget(this);
+    hidden_features = new HiddenFeatures(spell_target);
     features_settings =
         new FeaturesSettings(settings[QString::fromLatin1(SaveKeys::UNUSED_PAGES)].toList());
 
@@ -71,6 +76,7 @@ MainWindow::MainWindow(QObject* parent)
     refresh_preserve_gamma();
 
     setup_timers();
+    setup_tray_icon();
     create_new_rest_timer();
     setup_signal_handlers();
     check_for_first_start();
@@ -91,6 +97,9 @@ MainWindow::~MainWindow()
 {
     delete_rest_timer();
     delete idle_time;
+    delete tray_icon;
+    tray_icon = nullptr;
+    delete hotkey_processor;
     if (gamma) {
         restore_gamma();
         delete gamma;
@@ -100,6 +109,7 @@ MainWindow::~MainWindow()
     delete network_config_manager;
     delete unix_signals;
     delete hidden_features;
+    delete spell_target;
     delete features_settings;
     delete tick;
     delete curve;
@@ -192,9 +202,4 @@ void MainWindow::setup_signal_handlers()
         if (!quitting)
             save_on_the_way_out();
     });
-}
-
-void MainWindow::update_ui()
-{
-    process_curve_files();
 }

@@ -18,17 +18,20 @@
 #include "web/OvraWindow.h"
 
 class ColorCurve;
+class ControllerSpellTarget;
 class FeaturesSettings;
 class ColorTick;
 class IGamma;
 class GammaFactory;
 class HiddenFeatures;
+class HotkeyProcessor;
 class IColorTriggers;
 class IdleTime;
 class IRestTimer;
 class NewVersionNotification;
 class IScreenOverlays;
 class ITrayIcon;
+struct TrayHost;
 class OnlineState;
 struct SolarInterpolationValues;
 struct ClockInterpolationValues;
@@ -186,7 +189,7 @@ public slots:
 
 private:
     void set_window_opacity(double) {}
-    WindowSpec settings_window_spec() const;
+    WindowOptions settings_window_options() const;
     // The one-shot flags of the load belong to one page: a new page, in
     // the host or a browser, gets the whole sequence again.
     void forget_page();
@@ -700,9 +703,24 @@ public slots:
 private:
     void refresh_rest_screen_type();
     IdleTime* idle_time = nullptr;
-    bool timer_auto_paused = false;
     NewVersionNotification* new_version_notification = nullptr;
     // End of Breaks -----------------------------------------------------------------
+
+    // Hotkeys -------------------------------------------------------------------
+    // The fourteen global key combinations and their actions. Bodies in
+    // MainWindowHotkeys.cpp; the grabs and the actions' rules in src/hotkeys.
+public slots:
+    // The combinations are grabbed while UseKeyboardShortcuts is on.
+    void reconnect_keyboard_hook();
+
+public:
+    HotkeyProcessor* get_hotkey_processor() const { return hotkey_processor; }
+
+private:
+    void setup_hotkeys();
+
+    HotkeyProcessor* hotkey_processor = nullptr;
+    // End of Hotkeys ------------------------------------------------------------
 
     // Signals sent by subsystems still to come ------------------------------------
     // Declared now so that the page's subscriptions find them: the status
@@ -718,4 +736,57 @@ signals:
     // No page listens to these two.
     void brightness_change(int value);
     void screen_image(QString img);
+
+    // The tray ------------------------------------------------------------------
+    // The icon in the notification area: its backend, and the hooks its menu
+    // and its icon reach the controller through. Bodies in MainWindowTray.cpp;
+    // the backends in src/tray and, for Unity, the plugin in src/trayplugin.
+public slots:
+    bool is_ovra_loaded();
+    void show_tray_icon_message(QString title, QString text);
+    void show_tray_icon_context_menu();
+
+private:
+    void setup_tray_icon();
+    TrayHost tray_host();
+    bool tray_colors_changing();
+    // The values the tray saw last, to tell whether the colours move.
+    int tray_seen_temperature = -1;
+    int tray_seen_brightness = -1;
+    // End of The tray -----------------------------------------------------------
+
+    // Spells and the status texts -----------------------------------------------
+    // The spell interpreter's road into the controller (ControllerSpellTarget),
+    // the settings that only spells reach, and what the page and the tray show
+    // of the running state once a second. Bodies in MainWindowSpells.cpp and
+    // MainWindowStatus.cpp; the interpreter and its table in src/spells.
+public slots:
+    // The process watcher has no body on this platform: nothing reads the flag.
+    void refresh_enable_conflicting_applications() {}
+
+public:
+    // Stored by the change rule; the page has no control to move.
+    void use_hidden_features_notifications_changed(bool value);
+    void use_spinning_tray_icon_changed(bool value);
+    void use_ghost_icon_changed(bool value);
+    void allow_multiple_instances_changed(bool value);
+    void use_keyboard_hook_changed(bool value);
+    void enable_conflicting_applications_changed(bool value);
+    void ui_scale_changed(int value);
+
+private:
+    QString status_values();
+    // The status to the page, the icon to the tray; values already worked
+    // out this second may be passed in.
+    void publish_status(const QString* known_values);
+    template <class T>
+    void store_spell_setting(const char* key, const T& value, const Apply& apply = {});
+
+    ControllerSpellTarget* spell_target = nullptr;
+    // Set while a watched application keeps the work timer stopped.
+    bool timer_auto_paused = false;
+    SettingRef timer_paused_setting{settings, SaveKeys::IS_TIMER_PAUSED};
+    SettingRef use_sounds_setting{settings, SaveKeys::USE_SOUNDS};
+    SettingRef use_per_monitor_setting{settings, SaveKeys::USE_PER_MONITOR_SETTINGS};
+    // End of Spells and the status texts ---------------------------------------
 };

@@ -1,11 +1,9 @@
 // The monitors the tint leaves alone, and the shortcut recorder of the page.
 #include <QDebug>
-#include <iostream>
 
 #include "app/MainWindow.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "policy/IgnoredMonitors.h"
-#include "settings/ChangeRule.h"
-#include "settings/SettingsTable.h"
 
 // The list lives beside the map, not in it, so the list edit makes the
 // rule's comparison: an unchanged list stops here. It is saved with the
@@ -32,14 +30,9 @@ void MainWindow::restore_manage_monitors()
         emit ignore_monitor(monitor);
 }
 
-// The hotkey service grabs the new combination when it follows the key. The
-// page already shows what the user typed: the list is not sent back, which
-// would also move its dropdown to the first entry.
+// The page already shows what the user typed: the list is not sent back,
+// which would also move its dropdown to the first entry.
 void MainWindow::shortcut_changed(int feature_index, QString new_shortcut)
 {
-    const QString key = SettingsTable::hotkey_key(feature_index);
-    std::cout << key.toStdString() << "\n" << new_shortcut.toStdString() << std::endl;
-    if (key.isEmpty())
-        return;
-    change_setting(settings, key, new_shortcut, nullptr, [](const QVariant&) {});
+    hotkey_processor->shortcut_changed(feature_index, new_shortcut);
 }

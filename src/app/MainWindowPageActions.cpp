@@ -8,6 +8,7 @@
 
 #include "app/MainWindow.h"
 #include "breaks/IRestTimer.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "overlays/IScreenOverlays.h"
 #include "settings/Defines.h"
 #include "settings/SaveKeys.h"
@@ -84,8 +85,11 @@ void MainWindow::open_welcome_link()
 
 // ---------------------------------------------------------------- spells
 
+// An empty box asks for the list of spells.
 void MainWindow::activate_hidden_feature(QString hidden_feature)
 {
+    if (hidden_feature.isEmpty())
+        hidden_feature = QStringLiteral("help");
     hidden_features->activate_hidden_feature(hidden_feature.toUtf8().toStdString());
 }
 
@@ -93,7 +97,8 @@ void MainWindow::activate_hidden_feature(QString hidden_feature)
 
 // Everything back to its default but the language and the first-start mark;
 // the page then gets the whole push. The language is set again by the
-// translator, the hotkeys grab their defaults when that service follows.
+// translator; the hotkeys take their default combinations, and are released
+// since they are off by default.
 void MainWindow::reset_settings_to_default()
 {
     if (SaveManager::s_instance)
@@ -102,6 +107,8 @@ void MainWindow::reset_settings_to_default()
     restore_saved_settings();
     refresh_unused_pages();
     refresh_color_triggers();
+    reconnect_keyboard_hook();
+    hotkey_processor->refresh_shortcuts();
     check_for_first_start();
     first_start = false;
     restore_settings();

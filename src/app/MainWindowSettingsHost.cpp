@@ -1,9 +1,10 @@
 // Where the store and the restore push meet the controller. Each hook is a
 // call into MainWindow; a hook left empty is a step whose owner is not built
-// yet (the hotkeys' list of shortcuts, the updater's about texts).
+// yet (the updater's about texts).
 // reset_timer is wired although its body waits for the break timer, so that
 // every restore pass hands the break lengths over once that timer exists.
 #include "app/MainWindow.h"
+#include "hotkeys/HotkeyProcessor.h"
 #include "settings/SaveKeys.h"
 #include "settings/SettingsHost.h"
 #include "tray/ITrayIcon.h"
@@ -32,6 +33,10 @@ SettingsHost main_window_settings_host()
     };
 
     host.restore_saved_settings = [main_window] { main_window->restore_saved_settings(); };
+    host.shortcuts_values = [main_window] {
+        HotkeyProcessor* hotkeys = main_window->get_hotkey_processor();
+        return hotkeys ? hotkeys->get_shortcuts_values() : QVariantList();
+    };
     host.unused_pages = [main_window] { return main_window->get_unused_pages(); };
     host.restore_manage_monitors = [main_window] { main_window->restore_manage_monitors(); };
     host.refresh_after_restore = [main_window] {

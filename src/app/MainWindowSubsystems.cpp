@@ -9,12 +9,6 @@
 #include "settings/SaveKeys.h"
 #include "tray/ITrayIcon.h"
 
-void MainWindow::update_ovra_status()
-{
-    if (tray_icon)
-        tray_icon->update_tray_icon(false);
-}
-
 void MainWindow::refresh_pause_dependents()
 {
     if (tray_icon)

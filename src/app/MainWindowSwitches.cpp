@@ -224,10 +224,11 @@ void MainWindow::destroy_ui_on_close_changed(bool value)
     store_setting(DESTROY_UI_ON_CLOSE, value, &MainWindow::set_destroy_ui_on_close);
 }
 
-// The hotkey service grabs or releases its keys when it follows this.
+// The hotkeys grab or release their combinations.
 void MainWindow::use_keyboard_shortcuts_changed(bool value)
 {
-    store_setting(USE_KEYBOARD_SHORTCUTS, value, &MainWindow::set_use_keyboard_shortcuts);
+    store_setting(USE_KEYBOARD_SHORTCUTS, value, &MainWindow::set_use_keyboard_shortcuts,
+                  [this] { reconnect_keyboard_hook(); });
 }
 
 // The autostart service writes or removes its entries when it follows this.

@@ -24,12 +24,12 @@ int warm_period_msecs()
 }
 } // namespace
 
-WindowSpec MainWindow::settings_window_spec() const
+WindowOptions MainWindow::settings_window_options() const
 {
-    WindowSpec spec;
-    spec.size = window_size.isValid() ? window_size : START_SIZE;
-    spec.title = QCoreApplication::applicationName();
-    return spec;
+    WindowOptions options;
+    options.size = window_size.isValid() ? window_size : START_SIZE;
+    options.title = QCoreApplication::applicationName();
+    return options;
 }
 
 void MainWindow::forget_page()
@@ -44,7 +44,7 @@ bool MainWindow::create_ovra_ui()
         return false;
     forget_page();
     page_in_host = true;
-    return open_page(settings_window_spec(), ShowState::Hidden);
+    return open_page(settings_window_options(), ShowState::Hidden);
 }
 
 void MainWindow::page_connected(bool in_host)

@@ -47,19 +47,19 @@ void IRestScreen::set_continue_button()
     use_continue_button = true;
 }
 
-WindowSpec IRestScreen::screen_spec(const QString& title) const
+WindowOptions IRestScreen::screen_options(const QString& title) const
 {
-    WindowSpec spec;
-    spec.rect = geometry;
-    spec.title = title;
-    spec.frameless = true;
-    spec.tooltip = true;
-    spec.stays_on_top = true;
+    WindowOptions options;
+    options.rect = geometry;
+    options.title = title;
+    options.frameless = true;
+    options.tooltip = true;
+    options.stays_on_top = true;
     const bool blocking = timer->blocks_keyboard();
-    spec.refuse_close = blocking;
-    spec.swallow_keys = blocking;
-    spec.grab_keyboard = blocking;
-    return spec;
+    options.refuse_close = blocking;
+    options.swallow_keys = blocking;
+    options.grab_keyboard = blocking;
+    return options;
 }
 
 bool IRestScreen::eventFilter(QObject* watched, QEvent* event)

@@ -40,7 +40,7 @@ public slots:
 protected:
     // Keys and close requests of a native screen, by the strictness rule.
     bool eventFilter(QObject* watched, QEvent* event) override;
-    WindowSpec screen_spec(const QString& title) const;
+    WindowOptions screen_options(const QString& title) const;
     bool is_strict() const;
 
     RestTimer* timer;

@@ -10,7 +10,7 @@ NewVersionNotification::NewVersionNotification(const QString& version, QObject* 
                  QStringLiteral("notifications/new_version_screen.html"), parent)
     , version(version)
 {
-    open_page(SmallWindows::notification_spec(QStringLiteral("New version available"),
+    open_page(SmallWindows::notification_options(QStringLiteral("New version available"),
                                               QSize(360, 120)),
               ShowState::Normal);
 }

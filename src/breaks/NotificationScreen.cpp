@@ -9,7 +9,7 @@ NotificationScreen::NotificationScreen(const QString& type, QObject* parent)
                  QStringLiteral("notifications/notification_screen.html"), parent)
     , type(type)
 {
-    if (!open_page(SmallWindows::notification_spec(QStringLiteral("Notification"), QSize(380, 160)),
+    if (!open_page(SmallWindows::notification_options(QStringLiteral("Notification"), QSize(380, 160)),
                    ShowState::Normal))
         deleteWindow();
 }

@@ -8,7 +8,7 @@ PostponeBreak::PostponeBreak(RestTimer* timer, QObject* parent)
                  QStringLiteral("notifications/postpone_screen.html"), parent)
     , timer(timer)
 {
-    open_page(SmallWindows::notification_spec(QStringLiteral("Incoming break"), QSize(360, 120)),
+    open_page(SmallWindows::notification_options(QStringLiteral("Incoming break"), QSize(360, 120)),
               ShowState::Normal);
 }
 

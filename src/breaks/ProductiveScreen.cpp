@@ -6,13 +6,13 @@
 #include "breaks/SmallWindows.h"
 
 namespace {
-WindowSpec productive_spec()
+WindowOptions productive_options()
 {
-    WindowSpec spec = SmallWindows::notification_spec(QStringLiteral("Productive screen"),
+    WindowOptions options = SmallWindows::notification_options(QStringLiteral("Productive screen"),
                                                       QSize(400, 300));
-    spec.refuse_close = true;
-    spec.swallow_keys = true;
-    return spec;
+    options.refuse_close = true;
+    options.swallow_keys = true;
+    return options;
 }
 } // namespace
 
@@ -21,7 +21,7 @@ ProductiveScreen::ProductiveScreen(RestTimer* timer, QObject* parent)
                  QStringLiteral("notifications/productive_screen.html"), parent)
     , timer(timer)
 {
-    open_page(productive_spec(), ShowState::Normal);
+    open_page(productive_options(), ShowState::Normal);
 }
 
 void ProductiveScreen::page_loaded(bool ok)

@@ -17,7 +17,7 @@ RestScreenSimple::RestScreenSimple(RestTimer* timer, QScreen* screen, bool prima
     : IRestScreen(SmallWindows::unique_name(QStringLiteral("rest_screen")),
                   QStringLiteral("rest_screen.html"), timer, screen, primary, parent)
 {
-    open_page(screen_spec(QStringLiteral("Rest screen")), ShowState::Normal);
+    open_page(screen_options(QStringLiteral("Rest screen")), ShowState::Normal);
 }
 
 QString RestScreenSimple::start_script() const

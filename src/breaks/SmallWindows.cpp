@@ -11,18 +11,18 @@ QString unique_name(const QString& kind)
     return kind + QLatin1Char('_') + QString::number(++serial);
 }
 
-WindowSpec notification_spec(const QString& title, const QSize& start_size)
+WindowOptions notification_options(const QString& title, const QSize& start_size)
 {
-    WindowSpec spec;
-    spec.size = start_size;
-    spec.title = title;
-    spec.frameless = true;
-    spec.stays_on_top = true;
-    spec.tooltip = true;
-    spec.translucent = true;
-    spec.no_focus = true;
-    spec.start_offscreen = true;
-    return spec;
+    WindowOptions options;
+    options.size = start_size;
+    options.title = title;
+    options.frameless = true;
+    options.stays_on_top = true;
+    options.tooltip = true;
+    options.translucent = true;
+    options.no_focus = true;
+    options.start_offscreen = true;
+    return options;
 }
 
 QRect available_area()

@@ -17,7 +17,7 @@ QString unique_name(const QString& kind);
 
 // Frameless, above the others, outside the window manager and transparent
 // where the page draws nothing; off-screen until the page reports a size.
-WindowSpec notification_spec(const QString& title, const QSize& start_size);
+WindowOptions notification_options(const QString& title, const QSize& start_size);
 
 // The free area of the primary monitor, without panels.
 QRect available_area();

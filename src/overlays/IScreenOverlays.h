@@ -11,6 +11,8 @@ public:
     virtual void refresh_lightness_screens(bool force) = 0;
     // Forgets the selected area: the overlay covers whole screens again.
     virtual void reset_area() = 0;
+    // Whether overlay windows are on the screens now.
+    virtual bool has_overlay_screens() const = 0;
     // Once a second, with the tick.
     virtual void update() = 0;
 };

@@ -1,7 +1,9 @@
 #include "web/BridgeClient.h"
 
+#include "web/PageCallLog.h"
 #include "web/WebSocketTransport.h"
 
+#include <QJsonObject>
 #include <QTimer>
 #include <QWebChannel>
 #include <QWebSocket>
@@ -26,6 +28,11 @@ BridgeClient::BridgeClient(std::unique_ptr<QWebSocket> owned_socket, const QStri
     socket->setMaxAllowedIncomingMessageSize(MAX_MESSAGE_BYTES);
     socket->setMaxAllowedIncomingFrameSize(MAX_MESSAGE_BYTES);
     transport = new WebSocketTransport(socket, this);
+    if (page_calls().isDebugEnabled()) {
+        const QMetaObject* meta = native_object->metaObject();
+        connect(transport, &QWebChannelAbstractTransport::messageReceived, this,
+                [meta](const QJsonObject& message) { PageCallLog::note(message, meta); });
+    }
     channel = new QWebChannel(this);
     channel->registerObject(QStringLiteral("native_object"), native_object);
     channel->connectTo(transport);

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "web/PageWindows.h"
+#include "web/UserTime.h"
 
 OvraWindow::OvraWindow(const QString& window, const QString& page, QObject* parent)
     : QObject(parent), name(window), page(page)
@@ -20,18 +21,18 @@ PageWindows* OvraWindow::windows() const
     return PageWindows::instance();
 }
 
-bool OvraWindow::open_page(const WindowSpec& spec, ShowState state)
+bool OvraWindow::open_page(const WindowOptions& options, ShowState state)
 {
-    last_spec = spec;
+    last_options = options;
     last_state = state;
     loaded = false;
     visible = state != ShowState::Hidden;
-    return windows()->open(this, spec, state);
+    return windows()->open(this, options, state, UserTime::current());
 }
 
 bool OvraWindow::reopen_page()
 {
-    return open_page(last_spec, last_state);
+    return open_page(last_options, last_state);
 }
 
 bool OvraWindow::is_page_open() const
@@ -43,7 +44,7 @@ void OvraWindow::show_page(ShowState state, quint32 user_time)
 {
     last_state = state;
     visible = state != ShowState::Hidden;
-    windows()->host()->show(name, state, user_time);
+    windows()->host()->show(name, state, user_time ? user_time : UserTime::current());
 }
 
 void OvraWindow::hide_page()

@@ -29,7 +29,9 @@ public:
 
     // Opens the window on its page in the host, which starts if need be.
     // False when it cannot be shown (no host); the next call tries again.
-    bool open_page(const WindowSpec& spec, ShowState state);
+    // Opening and showing carry the time of the user's input at hand
+    // (UserTime), so that a window the user asked for takes the focus.
+    bool open_page(const WindowOptions& options, ShowState state);
     bool is_page_open() const;
     bool is_page_loaded() const { return loaded; }
     bool is_page_visible() const { return visible; }
@@ -75,6 +77,6 @@ private:
     QString page;
     bool loaded = false;
     bool visible = false;
-    WindowSpec last_spec;
+    WindowOptions last_options;
     ShowState last_state = ShowState::Hidden;
 };

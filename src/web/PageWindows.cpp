@@ -102,13 +102,14 @@ BridgeServer* PageWindows::host_bridge()
     return hosted;
 }
 
-bool PageWindows::open(OvraWindow* window, const WindowSpec& spec, ShowState state)
+bool PageWindows::open(OvraWindow* window, const WindowOptions& options, ShowState state,
+                       quint32 user_time)
 {
     BridgeServer* bridge = host_bridge();
     if (!bridge)
         return false;
     const QUrl url(bridge->page_url(window->page_path(), window->window_name()));
-    return web_host->open(window->window_name(), url, spec, state);
+    return web_host->open(window->window_name(), url, options, state, user_time);
 }
 
 bool PageWindows::offer_to_browsers(quint16 port)

@@ -27,7 +27,7 @@ public:
     OvraWindow* window(const QString& name) const { return registry.value(name); }
 
     // Opens the window on its page, served by the host's bridge.
-    bool open(OvraWindow* window, const WindowSpec& spec, ShowState state);
+    bool open(OvraWindow* window, const WindowOptions& options, ShowState state, quint32 user_time = 0);
     WebHost* host() const { return web_host; }
 
     // Offers the settings page to any browser on this machine, on `port`,

@@ -16,37 +16,6 @@ const int k_start_timeout_ms = 5000;
 // How long an ended host may take to leave before it is killed.
 const int k_exit_grace_ms = 1000;
 
-struct StateName
-{
-    ShowState state;
-    const char* name;
-};
-const StateName k_states[] = {
-    {ShowState::Hidden, "hidden"},       {ShowState::Normal, "normal"},
-    {ShowState::Minimized, "minimized"}, {ShowState::Maximized, "maximized"},
-    {ShowState::Fullscreen, "fullscreen"},
-};
-
-QString state_name(ShowState state)
-{
-    for (const StateName& s : k_states) {
-        if (s.state == state)
-            return QString::fromLatin1(s.name);
-    }
-    return QStringLiteral("normal");
-}
-
-bool state_from_name(const QString& name, ShowState* state)
-{
-    for (const StateName& s : k_states) {
-        if (name == QLatin1String(s.name)) {
-            *state = s.state;
-            return true;
-        }
-    }
-    return false;
-}
-
 QJsonArray rect_array(const QRect& r)
 {
     return {r.x(), r.y(), r.width(), r.height()};
@@ -57,15 +26,15 @@ QJsonArray size_array(const QSize& s)
     return {s.width(), s.height()};
 }
 
-QJsonObject flags_object(const WindowSpec& spec)
+QJsonObject flags_object(const WindowOptions& options)
 {
     const std::pair<const char*, bool> flags[] = {
-        {"frameless", spec.frameless},         {"stays_on_top", spec.stays_on_top},
-        {"tool", spec.tool},                   {"tooltip", spec.tooltip},
-        {"translucent", spec.translucent},     {"refuse_close", spec.refuse_close},
-        {"swallow_keys", spec.swallow_keys},   {"grab_keyboard", spec.grab_keyboard},
-        {"keep_raised", spec.keep_raised},     {"click_through", spec.click_through},
-        {"no_focus", spec.no_focus},           {"start_offscreen", spec.start_offscreen},
+        {"frameless", options.frameless},       {"stays_on_top", options.stays_on_top},
+        {"tool", options.tool},                 {"tooltip", options.tooltip},
+        {"translucent", options.translucent},   {"refuse_close", options.refuse_close},
+        {"swallow_keys", options.swallow_keys}, {"grab_keyboard", options.grab_keyboard},
+        {"keep_raised", options.keep_raised},   {"click_through", options.click_through},
+        {"no_focus", options.no_focus},         {"start_offscreen", options.start_offscreen},
     };
     QJsonObject result;
     for (const auto& flag : flags) {
@@ -84,10 +53,13 @@ WebHost::WebHost(QObject* parent)
 
 WebHost::~WebHost()
 {
-    // Children: a running host is killed by its QProcess on the way out,
-    // and would die with this process anyway.
-    if (m_process)
-        m_process->closeWriteChannel();
+    // Hosts still running, the current one or ones being ended, go now;
+    // they would die with this process anyway.
+    for (QProcess* process : findChildren<QProcess*>(Qt::FindDirectChildrenOnly)) {
+        disconnect(process, nullptr, this, nullptr);
+        process->kill();
+        process->waitForFinished(k_exit_grace_ms);
+    }
 }
 
 QString WebHost::host_path()
@@ -186,7 +158,8 @@ bool WebHost::send_to(const QString& id, QJsonObject command)
     return true;
 }
 
-bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state)
+bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state,
+                   quint32 user_time)
 {
     if (m_windows.contains(id)) {
         fprintf(stderr, "ovra: page window %s is already open\n", qPrintable(id));
@@ -197,13 +170,15 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
     QJsonObject command{{"cmd", "open"},
                         {"id", id},
                         {"url", url.toString(QUrl::FullyEncoded)},
-                        {"title", spec.title},
-                        {"flags", flags_object(spec)},
-                        {"state", state_name(state)}};
-    if (!spec.rect.isNull())
-        command.insert(QStringLiteral("rect"), rect_array(spec.rect));
-    if (spec.size.isValid())
-        command.insert(QStringLiteral("size"), size_array(spec.size));
+                        {"title", options.title},
+                        {"flags", flags_object(options)},
+                        {"state", host_states::name_of(state)}};
+    if (!options.rect.isNull())
+        command.insert(QStringLiteral("rect"), rect_array(options.rect));
+    if (options.size.isValid())
+        command.insert(QStringLiteral("size"), size_array(options.size));
+    if (user_time)
+        command.insert(QStringLiteral("time"), double(user_time));
     send(command);
     m_windows.insert(id);
     return true;
@@ -211,7 +186,7 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowSpec& spec, S
 
 bool WebHost::show(const QString& id, ShowState state, quint32 user_time)
 {
-    QJsonObject command{{"cmd", "show"}, {"state", state_name(state)}};
+    QJsonObject command{{"cmd", "show"}, {"state", host_states::name_of(state)}};
     if (user_time)
         command.insert(QStringLiteral("time"), double(user_time));
     return send_to(id, command);
@@ -252,9 +227,9 @@ bool WebHost::set_geometry(const QString& id, const QRect& rect)
     return send_to(id, {{"cmd", "geometry"}, {"rect", rect_array(rect)}});
 }
 
-bool WebHost::set_policy(const QString& id, const WindowSpec& spec)
+bool WebHost::set_policy(const QString& id, const WindowOptions& options)
 {
-    return send_to(id, {{"cmd", "policy"}, {"flags", flags_object(spec)}});
+    return send_to(id, {{"cmd", "policy"}, {"flags", flags_object(options)}});
 }
 
 bool WebHost::evaluate(const QString& id, const QString& script)
@@ -313,7 +288,7 @@ void WebHost::dispatch(const QJsonObject& event)
         emit escape_pressed(id);
     } else if (name == QLatin1String("state")) {
         ShowState state;
-        if (state_from_name(event.value(QLatin1String("state")).toString(), &state))
+        if (host_states::from_name(event.value(QLatin1String("state")).toString(), &state))
             emit state_changed(id, state);
     }
 }

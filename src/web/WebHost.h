@@ -8,11 +8,13 @@
 #include <QString>
 #include <QUrl>
 
+#include "web/HostStates.h"
+
 class QJsonObject;
 class QProcess;
 
 // How a page window looks and what the host enforces for it.
-struct WindowSpec
+struct WindowOptions
 {
     QRect rect;    // where on the screen; a null rect leaves placement to the WM
     QSize size;    // used when rect is null
@@ -31,7 +33,6 @@ struct WindowSpec
     bool start_offscreen = false; // off-screen until set_geometry()
 };
 
-enum class ShowState { Hidden, Normal, Minimized, Maximized, Fullscreen };
 
 // The client of the window host `ovra-web`, the only program that links the
 // web engine. It starts the host when a window is opened, and ends it when
@@ -44,7 +45,8 @@ enum class ShowState { Hidden, Normal, Minimized, Maximized, Fullscreen };
 // names this process, which it checks after asking to die with it.
 //
 // Commands ("cmd" and the fields each takes):
-//   open      id, url, title, rect [x,y,w,h] | size [w,h], flags {...}, state
+//   open      id, url, title, rect [x,y,w,h] | size [w,h], flags {...}, state,
+//             time (X time of the user's event, optional)
 //   show      id, state ("hidden" "normal" "minimized" "maximized"
 //             "fullscreen"), time (X time of the user's event, optional)
 //   hide      id
@@ -78,7 +80,8 @@ public:
     // Starts the host if needed. False, with one line on stderr, when the
     // host cannot be started or the id is already open; the next call tries
     // again.
-    bool open(const QString& id, const QUrl& url, const WindowSpec& spec, ShowState state);
+    bool open(const QString& id, const QUrl& url, const WindowOptions& options, ShowState state,
+              quint32 user_time = 0);
     // `user_time` is the X server time of the user's event that asked for
     // the window (0: none): it lets the window pass focus-stealing checks.
     // These return false when no window has that id.
@@ -88,7 +91,7 @@ public:
     bool close(const QString& id);
     bool resize(const QString& id, const QSize& size);
     bool set_geometry(const QString& id, const QRect& rect);
-    bool set_policy(const QString& id, const WindowSpec& spec);
+    bool set_policy(const QString& id, const WindowOptions& options);
     bool evaluate(const QString& id, const QString& script);
 
     bool has_window(const QString& id) const { return m_windows.contains(id); }

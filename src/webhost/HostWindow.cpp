@@ -4,6 +4,7 @@
 #include "X11Window.h"
 
 #include <QCloseEvent>
+#include <QPlatformSurfaceEvent>
 #include <QVBoxLayout>
 #include <QWebEngineSettings>
 #include <QWebEngineView>
@@ -139,16 +140,10 @@ void HostWindow::show_in(ShowState state, quint32 user_time)
     // it. Qt writes its own last event time there as well; the activation
     // request below carries the user's time either way.
     if (!was_visible && wants_focus && user_time)
-        X11Window::set_user_time(quint32(winId()), user_time);
+        X11Window::set_user_time(xid(), user_time);
     apply_state(state);
-    if (!wants_focus)
-        return;
-    if (m_exposed) {
-        activate(user_time);
-    } else {
-        m_activate_on_map = true;
-        m_pending_time = user_time;
-    }
+    if (wants_focus)
+        activate_when_mapped(user_time);
 }
 
 void HostWindow::bring_forward(quint32 user_time)
@@ -162,14 +157,25 @@ void HostWindow::bring_forward(quint32 user_time)
         showNormal();
     }
     raise();
-    if (m_policy.no_focus)
-        return;
+    if (!m_policy.no_focus)
+        activate_when_mapped(user_time);
+}
+
+void HostWindow::activate_when_mapped(quint32 user_time)
+{
+    // Focus can only go to a viewable window.
     if (m_exposed) {
         activate(user_time);
     } else {
         m_activate_on_map = true;
         m_pending_time = user_time;
     }
+}
+
+quint32 HostWindow::xid()
+{
+    winId(); // makes the native window if there is none yet
+    return quint32(windowHandle()->winId());
 }
 
 void HostWindow::activate(quint32 user_time)
@@ -180,15 +186,14 @@ void HostWindow::activate(quint32 user_time)
         activateWindow();
         return;
     }
-    const quint32 xid = quint32(winId());
     if (user_time) {
-        X11Window::set_user_time(xid, user_time);
-        X11Window::request_activation(xid, user_time, 1);
+        X11Window::set_user_time(xid(), user_time);
+        X11Window::request_activation(xid(), user_time, 1);
     } else {
         // A pager's request: window managers grant it even while they
         // prevent focus stealing, which is right for a window the user
         // asked for through ovra.
-        X11Window::request_activation(xid, 0, 2);
+        X11Window::request_activation(xid(), 0, 2);
     }
 }
 
@@ -226,8 +231,7 @@ void HostWindow::changeEvent(QEvent* event)
 
 bool HostWindow::event(QEvent* event)
 {
-    // The native window is made again when the page's surface needs another
-    // kind of window than the first, so the watch follows each new one.
+    // The watch follows each new QWindow the widget gets.
     if (event->type() == QEvent::WinIdChange || event->type() == QEvent::Show) {
         if (QWindow* handle = windowHandle())
             handle->installEventFilter(this);
@@ -244,6 +248,18 @@ void HostWindow::hideEvent(QHideEvent* event)
 
 bool HostWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    // Qt makes the native window anew under the same QWindow when the page's
+    // surface arrives after the first show (seen with Qt::ToolTip windows),
+    // and QWidget::winId() keeps the old id. The new window's exposure is
+    // reported as a mapping of its own, with its id; a grab on the old
+    // window died with it.
+    if (watched == windowHandle() && event->type() == QEvent::PlatformSurface
+        && static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType()
+               == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
+        m_exposed = false;
+        m_raise_timer.stop();
+        release_grab();
+    }
     if (watched == windowHandle() && event->type() == QEvent::Expose) {
         const bool exposed = windowHandle()->isExposed();
         if (exposed && !m_exposed)
@@ -260,22 +276,24 @@ bool HostWindow::eventFilter(QObject* watched, QEvent* event)
 void HostWindow::on_exposed()
 {
     m_exposed = true;
-    emit mapped(quint32(winId()));
     if (m_policy.keep_raised)
         m_raise_timer.start();
+    // The grab is asked for (and answered) before the report, so that once
+    // ovra hears of the window, keys are already held.
     if (m_policy.grab_keyboard)
         try_grab();
     if (m_activate_on_map) {
         m_activate_on_map = false;
         activate(m_pending_time);
     }
+    emit mapped(xid());
 }
 
 void HostWindow::try_grab()
 {
     if (m_grabbed || !m_exposed || !m_policy.grab_keyboard)
         return;
-    if (X11Window::grab_keyboard(quint32(winId())) == 0) {
+    if (X11Window::grab_keyboard(xid()) == 0) {
         m_grabbed = true;
         return;
     }

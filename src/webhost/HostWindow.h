@@ -54,6 +54,9 @@ protected:
 private:
     void apply_state(ShowState state);
     void apply_window_flags();
+    // The X id of the native window as it is now.
+    quint32 xid();
+    void activate_when_mapped(quint32 user_time);
     void activate(quint32 user_time);
     void on_exposed();
     void try_grab();

@@ -103,7 +103,7 @@ void WindowHost::handle(const QJsonObject& command)
         return;
     if (cmd == QLatin1String("show")) {
         ShowState state = ShowState::Normal;
-        if (command.contains("state") && !parse_show_state(command.value("state").toString(), &state))
+        if (command.contains("state") && !host_states::from_name(command.value("state").toString(), &state))
             fprintf(stderr, "ovra-web: show: unknown state, showing normal\n");
         window->show_in(state, to_time(command.value("time")));
     } else if (cmd == QLatin1String("hide")) {
@@ -144,7 +144,7 @@ void WindowHost::open(const QJsonObject& command)
         return;
     }
     ShowState state = ShowState::Normal;
-    if (command.contains("state") && !parse_show_state(command.value("state").toString(), &state))
+    if (command.contains("state") && !host_states::from_name(command.value("state").toString(), &state))
         fprintf(stderr, "ovra-web: open: unknown state, showing normal\n");
 
     auto* window = new HostWindow(id, m_profile,
@@ -171,7 +171,7 @@ void WindowHost::connect_window(HostWindow* window)
             [this, id](quint32 xid) { send("mapped", id, {{"xid", double(xid)}}); });
     connect(window, &HostWindow::close_requested, this, [this, id] { send("close_requested", id); });
     connect(window, &HostWindow::state_changed, this, [this, id](ShowState state) {
-        send("state", id, {{"state", show_state_name(state)}});
+        send("state", id, {{"state", host_states::name_of(state)}});
     });
     connect(window, &HostWindow::grab_released, this, [this, window] {
         for (auto& entry : m_windows) {

@@ -31,36 +31,3 @@ Qt::WindowFlags WindowPolicy::window_flags() const
         f |= Qt::WindowDoesNotAcceptFocus;
     return f;
 }
-
-namespace {
-struct StateName
-{
-    ShowState state;
-    const char* name;
-};
-const StateName k_states[] = {
-    {ShowState::Hidden, "hidden"},       {ShowState::Normal, "normal"},
-    {ShowState::Minimized, "minimized"}, {ShowState::Maximized, "maximized"},
-    {ShowState::Fullscreen, "fullscreen"},
-};
-} // namespace
-
-bool parse_show_state(const QString& name, ShowState* state)
-{
-    for (const StateName& s : k_states) {
-        if (name == QLatin1String(s.name)) {
-            *state = s.state;
-            return true;
-        }
-    }
-    return false;
-}
-
-QString show_state_name(ShowState state)
-{
-    for (const StateName& s : k_states) {
-        if (s.state == state)
-            return QString::fromLatin1(s.name);
-    }
-    return QString();
-}

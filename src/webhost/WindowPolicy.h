@@ -1,5 +1,7 @@
 #pragma once
 
+#include "web/HostStates.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <Qt>
@@ -25,8 +27,4 @@ struct WindowPolicy
     Qt::WindowFlags window_flags() const;
 };
 
-enum class ShowState { Hidden, Normal, Minimized, Maximized, Fullscreen };
 
-// Returns false for a name that is not a state.
-bool parse_show_state(const QString& name, ShowState* state);
-QString show_state_name(ShowState state);

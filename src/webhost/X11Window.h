@@ -4,7 +4,9 @@
 
 // The few X requests Qt does not offer for a top-level window: the user's
 // time stamp, an activation request the way a pager makes it, and an active
-// keyboard grab. Each returns 0 or -1 and writes one line to stderr.
+// keyboard grab. Each returns 0 or -1; without an X11 connection it says so
+// in one line on stderr. A refused grab is left to the caller to tell, since
+// it is tried again.
 namespace X11Window {
 
 // Sets _NET_WM_USER_TIME on the window and on the window it names as its

@@ -18,8 +18,10 @@ namespace {
 
 // Chromium switches that keep the engine small: software compositing, one
 // renderer shared by every window, and V8 without its optimising compilers
-// (smaller heaps; the pages are small and load no slower for it).
-const char k_lean_engine_flags[] = "--disable-gpu --renderer-process-limit=1 --js-flags=--lite-mode";
+// (smaller heaps; the pages are small and load no slower for it). Lite mode
+// turns WebAssembly off and says so on every start unless told as well.
+const char k_lean_engine_flags[] =
+    "--disable-gpu --renderer-process-limit=1 --js-flags=--lite-mode,--no-expose-wasm";
 
 void quiet_message_handler(QtMsgType, const QMessageLogContext&, const QString&) {}
 

@@ -11,6 +11,14 @@ BINARY = os.environ.get("OVRA_BINARY", "")
 RAMPS = os.environ.get("OVRA_RAMPS", "")
 TOOLS_DIR = os.path.dirname(RAMPS) if RAMPS else ""
 
+# The window host runs the web engine: as root it needs the sandbox off, and
+# there is no GPU on a test server.
+ENGINE_ENV = {"QTWEBENGINE_DISABLE_SANDBOX": "1", "QTWEBENGINE_CHROMIUM_FLAGS": "--disable-gpu"}
+# The engine's cold start takes a few seconds on a busy two-core machine, and
+# far more when other builds run beside the tests: a window gets this long.
+WINDOW_TIMEOUT = 60
+SETTINGS_TITLE = "^Ovra$"
+
 
 def f32(value):
     """Rounds a Python float to the nearest 32-bit float."""
@@ -45,6 +53,73 @@ def read_ramps(crtc=0, display=None):
     channels = [list(map(int, line.split())) for line in lines[1:4]]
     assert all(len(c) == size for c in channels), "short ramp"
     return tuple(channels)
+
+
+def settings_windows(visible=True):
+    """X ids of the settings window, whichever process shows it (the window
+    host's, never ovra's own)."""
+    args = ["xdotool", "search"] + (["--onlyvisible"] if visible else []) + ["--name",
+                                                                             SETTINGS_TITLE]
+    return subprocess.run(args, capture_output=True, text=True, timeout=20).stdout.split()
+
+
+def window_pid(window):
+    out = subprocess.run(["xdotool", "getwindowpid", window], capture_output=True, text=True,
+                         timeout=20).stdout.strip()
+    return int(out) if out else 0
+
+
+def process_table():
+    """{pid: (parent pid, command name)} of every process now."""
+    table = {}
+    for name in os.listdir("/proc"):
+        if not name.isdigit():
+            continue
+        try:
+            with open("/proc/%s/stat" % name) as f:
+                stat = f.read()
+        except OSError:
+            continue
+        # The name is in parentheses and may hold spaces or parentheses.
+        command = stat[stat.index("(") + 1:stat.rindex(")")]
+        fields = stat[stat.rindex(")") + 2:].split()
+        table[int(name)] = (int(fields[1]), command)
+    return table
+
+
+def children(pid, command=None):
+    return [child for child, (parent, name) in process_table().items()
+            if parent == pid and (command is None or name == command)]
+
+
+def descendants(pid):
+    table = process_table()
+    found, todo = [], [pid]
+    while todo:
+        parent = todo.pop()
+        kids = [child for child, (p, _) in table.items() if p == parent]
+        found += kids
+        todo += kids
+    return found
+
+
+def host_pids(pid):
+    """The window hosts that ovra `pid` runs."""
+    return children(pid, "ovra-web")
+
+
+def alive(pid):
+    """Running, and not a zombie waiting for its parent."""
+    try:
+        with open("/proc/%d/stat" % pid) as f:
+            return f.read().rsplit(")", 1)[1].split()[0] != "Z"
+    except OSError:
+        return False
+
+
+def maps_web_engine(pid):
+    with open("/proc/%d/maps" % pid) as f:
+        return "libQt6WebEngine" in f.read()
 
 
 def crtc_count(display=None):
@@ -201,7 +276,7 @@ class OvraTestCase(unittest.TestCase):
             os.makedirs(d)
         os.chmod(self.runtime, 0o700)
         self.env = dict(os.environ, HOME=self.home, XDG_CONFIG_HOME=self.config,
-                        XDG_RUNTIME_DIR=self.runtime)
+                        XDG_RUNTIME_DIR=self.runtime, **ENGINE_ENV)
         self.processes = []
         make_linear()
         self.original = read_ramps()
@@ -251,6 +326,18 @@ class OvraTestCase(unittest.TestCase):
             actual = read_ramps(crtc, display)
             self.fail("ramps never reached the expected values; first entries: actual %s expected %s"
                       % ([c[:6] for c in actual], [c[:6] for c in expected]))
+
+    def launch(self, *args, env=None):
+        """A second launch: it hands its words to the running one and ends."""
+        return subprocess.run([BINARY, *args], env=env or self.env, cwd=self.home,
+                              capture_output=True, text=True, timeout=20)
+
+    def wait_for_window(self, timeout=WINDOW_TIMEOUT):
+        """The one visible settings window, once it is there."""
+        windows = wait_for(settings_windows, timeout, interval=0.1)
+        self.assertTrue(windows, "the settings window never showed")
+        self.assertEqual(len(windows), 1, "more than one settings window: %s" % windows)
+        return windows[0]
 
     def wait_for_tint(self, timeout=10):
         """Waits until the display differs from the original ramps."""

@@ -6,7 +6,8 @@ import socket
 import subprocess
 import time
 
-from harness import (OvraTestCase, expected_tint, read_ramps, wait_for, BINARY)
+from harness import (OvraTestCase, WINDOW_TIMEOUT, expected_tint, read_ramps, settings_windows,
+                     wait_for, BINARY)
 
 FIXED_TEMPERATURE = 3400
 FIXED_BRIGHTNESS = 80
@@ -34,24 +35,22 @@ class TintAndRestore(OvraTestCase):
     def test_closing_the_window_without_tray_quits_and_restores(self):
         p = self.start("--show_ui")
         self.wait_for_ramps(self.tinted())
-        window = wait_for(lambda: subprocess.run(
-            ["xdotool", "search", "--pid", str(p.pid), "--name", "^Ovra$"],
-            capture_output=True, text=True).stdout.split(), timeout=10)
-        self.assertTrue(window, "the settings window was never created")
+        # The window host's window, shown once its page is ready.
+        window = self.wait_for_window()
         closer = os.path.join(os.path.dirname(os.environ["OVRA_RAMPS"]), "ovra-close-window")
 
-        # The window opens minimized and is then shown; a close that reaches
-        # it before Qt has seen it mapped is dropped, as no user could click
-        # it then. So ask again, as a user would, until the program ends.
+        # A close that reaches the window before Qt has seen it mapped is
+        # dropped, as no user could click it then. So ask again, as a user
+        # would, until the program ends.
         def closed():
-            subprocess.run([closer, window[0]], timeout=10)
+            subprocess.run([closer, window], timeout=10)
             try:
                 p.proc.wait(timeout=0.5)
                 return True
             except subprocess.TimeoutExpired:
                 return False
 
-        self.assertTrue(wait_for(closed, timeout=20), "closing the window did not end the program")
+        self.assertTrue(wait_for(closed, timeout=30), "closing the window did not end the program")
         self.assertEqual(p.wait(timeout=15), 0)
         self.assertIn("Tray icon is not visible", p.stdout())
         self.assertEqual(read_ramps(), self.original)
@@ -105,10 +104,6 @@ class TwoInstancesOnOneDisplay(OvraTestCase):
 
 class SingleInstance(OvraTestCase):
 
-    def launch(self, *args, env=None):
-        return subprocess.run([BINARY, *args], env=env or self.env, cwd=self.home,
-                              capture_output=True, text=True, timeout=20)
-
     def leave_a_dead_socket(self):
         # A socket file whose owner died: nobody listens behind it.
         dead = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
@@ -140,17 +135,13 @@ class SingleInstance(OvraTestCase):
                     self.assertTrue(os.path.exists("/tmp/MorvenikOvra-%d" % os.getuid()))
                 first.stop()
 
-    def visible_windows(self, p):
-        return subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(p.pid),
-                               "--name", "^Ovra$"], capture_output=True, text=True).stdout.split()
-
     def test_second_launch_without_words_opens_the_window(self):
         first = self.start()
         self.wait_for_tint()
-        self.assertFalse(self.visible_windows(first), "the window opened by itself at start")
+        self.assertFalse(settings_windows(), "the window opened by itself at start")
         second = self.launch()
         self.assertEqual(second.returncode, 0)
-        self.assertTrue(wait_for(lambda: self.visible_windows(first), timeout=15),
+        self.assertTrue(wait_for(settings_windows, timeout=WINDOW_TIMEOUT),
                         "the running instance did not open its window")
         self.assertTrue(first.alive())
 

@@ -8,7 +8,7 @@ import subprocess
 import time
 
 from harness import (BINARY, OvraTestCase, expected_tint, make_linear, read_ramps,
-                     wait_for, write_ramps)
+                     settings_windows, wait_for, write_ramps)
 
 SOURCE_DIR = os.environ.get("OVRA_SOURCE_DIR", "")
 TINT = {
@@ -191,6 +191,4 @@ class AnsweredBeforeStarting(OvraTestCase):
         self.assertTrue(running.alive())
         self.assertEqual(running.stdout(), said)
         self.assertEqual(self.stored(), store)
-        windows = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(running.pid),
-                                  "--name", "^Ovra$"], capture_output=True, text=True).stdout
-        self.assertEqual(windows, "")
+        self.assertEqual(settings_windows(), [])

@@ -5,14 +5,51 @@
 // (labels, folding sections, dependent ranges) follows either way.
 "use strict";
 
+// Reports not yet answered, by slot, and what the program sent meanwhile,
+// by slot and element. A control moved quickly (a drag, a held arrow key)
+// sends its next report before the answer to the last one is back, and the
+// program's value for that last one would move the control back under the
+// user's hand. So while its reports are on their way a control keeps what
+// the user set, and takes the program's last value once all are answered.
+var in_flight = {};
+var held_back = {};
+
+function answered(slot) {
+  in_flight[slot] -= 1;
+  if (in_flight[slot] > 0 || !held_back[slot]) {
+    return;
+  }
+  var waiting = held_back[slot];
+  delete held_back[slot];
+  Object.keys(waiting).forEach(function (element) {
+    waiting[element]();
+  });
+}
+
 function report(slot) {
   var args = Array.prototype.slice.call(arguments, 1);
-  native_call.apply(null, [slot].concat(args));
-  if (!has_native_side()) {
+  var sent = native_call.apply(null, [slot].concat(args, [function () {
+    answered(slot);
+  }]));
+  if (sent) {
+    in_flight[slot] = (in_flight[slot] || 0) + 1;
+  } else if (!has_native_side()) {
     save_manager.remember(slot, args);
   }
 }
 exports.report = report;
+
+// Shows what the program sent for the control `element` now, or, while the
+// user's reports through `slot` are on their way, once they are answered.
+function from_program(slot, element, show) {
+  if (in_flight[slot] > 0) {
+    held_back[slot] = held_back[slot] || {};
+    held_back[slot][element] = show;
+    return;
+  }
+  show();
+}
+exports.from_program = from_program;
 
 function after_change(options, value, from_native) {
   if (options.follow) {
@@ -67,7 +104,9 @@ exports.slider = function (module, options) {
 
   (options.signals || ["set_" + options.name + "_slider_value"]).forEach(function (signal) {
     module[signal] = function (native_value) {
-      show(from_native(native_value));
+      from_program(options.slot, options.element, function () {
+        show(from_native(native_value));
+      });
     };
   });
 

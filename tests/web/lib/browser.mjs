@@ -31,7 +31,8 @@ export async function open_browser() {
 
 // A page whose calls to the missing native side are collected: on its own
 // the page writes each one to the console as "native: name(args)".
-export async function open_page(browser, url) {
+// `prepare(page)` runs before the page loads, for routes of its own.
+export async function open_page(browser, url, { prepare } = {}) {
   const page = await browser.context.newPage();
   const calls = [];
   const errors = [];
@@ -44,6 +45,9 @@ export async function open_page(browser, url) {
   page.on("pageerror", (error) => errors.push(error.message));
   // What the page remembers on its own would carry over from test to test.
   await page.addInitScript(() => window.localStorage.clear());
+  if (prepare) {
+    await prepare(page);
+  }
   await page.goto(url);
   await page.waitForFunction(() => window.load_finished === true, null, { timeout: 20000 });
   return { page, calls, errors };

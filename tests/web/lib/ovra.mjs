@@ -51,12 +51,14 @@ export function read_ramps(crtc = 0) {
   return lines.slice(1, 4).map((line) => line.split(/\s+/).map(Number));
 }
 
-export async function start_ovra() {
+// `env` adds to the test's environment; the program's standard error is kept
+// whole for stderr().
+export async function start_ovra({ env = {} } = {}) {
   if (!process.env.OVRA_BINARY || !process.env.DISPLAY) {
     throw new Error("needs OVRA_BINARY and an X server: run it through ctest under make test");
   }
   const child = spawn(process.env.OVRA_BINARY, ["--web-bridge"], {
-    env: { ...process.env, QTWEBENGINE_DISABLE_SANDBOX: "1", QTWEBENGINE_CHROMIUM_FLAGS: "--disable-gpu" },
+    env: { ...process.env, QTWEBENGINE_DISABLE_SANDBOX: "1", QTWEBENGINE_CHROMIUM_FLAGS: "--disable-gpu", ...env },
     stdio: ["ignore", "pipe", "pipe"]
   });
   let output = "";
@@ -80,9 +82,7 @@ export async function start_ovra() {
   return {
     child,
     address,
-    stderr() {
-      return errors;
-    },
+    stderr: () => errors,
     page_url() {
       const url = new URL(address);
       if (url.pathname.endsWith("/")) {
