@@ -88,3 +88,18 @@ class Hotkeys(OvraTestCase):
         self.assertEqual(p.stderr().splitlines(),
                          ["QHotkey: Failed to register hotkey. Error: BadAccess "
                           "(attempt to access private resource denied)"])
+
+    def test_the_start_rest_key_brings_the_rest_screen(self):
+        self.write_config(dict(CONFIG, TimerType=2, TimerPaused="false", RestScreenType=2,
+                               RestTime=300))
+        p = self.start()
+        self.wait_for_tint(3000, 70)
+        rest_screens = ["xdotool", "search", "--onlyvisible", "--name", "^Rest screen$"]
+        shown = lambda: subprocess.run(rest_screens, env=self.env, capture_output=True,
+                                       text=True, timeout=10).stdout.split()
+        self.assertEqual(shown(), [])
+        self.press("ctrl+alt+s")
+        self.assertTrue(wait_for(shown, timeout=60), "no rest screen came")
+        self.press("ctrl+alt+q")
+        self.assertEqual(p.wait(timeout=15), 0, p.stderr())
+        self.assertEqual(shown(), [])
