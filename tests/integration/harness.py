@@ -292,6 +292,20 @@ class OvraTestCase(unittest.TestCase):
         self.addCleanup(server.stop)
         return server
 
+    def xorg_outputs(self, count):
+        """A headless Xorg with `count` outputs for this test, stopped at its
+        end; its display name. Skips where Xorg cannot run."""
+        tool = os.path.join(os.environ.get("OVRA_SOURCE_DIR", ""), "tests", "tools",
+                            "xorg-dummy.sh")
+        started = subprocess.run([tool, "start", str(count)], capture_output=True, text=True,
+                                 timeout=60)
+        if started.returncode == 77:
+            self.skipTest(started.stderr.strip())
+        self.assertEqual(started.returncode, 0, started.stderr)
+        display = started.stdout.strip()
+        self.addCleanup(subprocess.run, [tool, "stop", display], timeout=60)
+        return display
+
     def config_file(self):
         name = "Ovra-root.conf" if os.getuid() == 0 else "Ovra.conf"
         return os.path.join(self.config, "Morvenik", name)

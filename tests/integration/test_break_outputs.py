@@ -1,27 +1,17 @@
 """Rest screens on several outputs of a headless Xorg: one screen a monitor
 on its rectangle; a monitor switched off during a rest takes its screen with
 it, and one switched on gets a screen at the next rest."""
-import os
 import subprocess
 
 from break_support import REST, BreakTestCase, geometry, visible_windows
 from harness import make_linear, wait_for
-
-XORG_DUMMY = os.path.join(os.environ.get("OVRA_SOURCE_DIR", ""), "tests", "tools",
-                          "xorg-dummy.sh")
 
 
 class BreakOutputs(BreakTestCase):
 
     def setUp(self):
         super().setUp()
-        started = subprocess.run([XORG_DUMMY, "start", "3"], capture_output=True, text=True,
-                                 timeout=60)
-        if started.returncode == 77:
-            self.skipTest(started.stderr.strip())
-        self.assertEqual(started.returncode, 0, started.stderr)
-        self.xorg = started.stdout.strip()
-        self.addCleanup(subprocess.run, [XORG_DUMMY, "stop", self.xorg], timeout=60)
+        self.xorg = self.xorg_outputs(3)
         make_linear(self.xorg)
 
     def output(self, name, on):

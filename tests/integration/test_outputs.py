@@ -1,27 +1,16 @@
 """Several outputs on a headless Xorg: every CRTC gets the tint, an ignored
 monitor gets the neutral record, and every CRTC gets its own ramps back."""
-import os
 import signal
-import subprocess
 
 from harness import (OvraTestCase, crtc_count, expected_tint, make_linear, read_ramps,
                      ramps_close, wait_for)
-
-XORG_DUMMY = os.path.join(os.environ.get("OVRA_SOURCE_DIR", ""), "tests", "tools",
-                          "xorg-dummy.sh")
 
 
 class ThreeOutputs(OvraTestCase):
 
     def setUp(self):
         super().setUp()
-        started = subprocess.run([XORG_DUMMY, "start", "3"], capture_output=True, text=True,
-                                 timeout=60)
-        if started.returncode == 77:
-            self.skipTest(started.stderr.strip())
-        self.assertEqual(started.returncode, 0, started.stderr)
-        self.display = started.stdout.strip()
-        self.addCleanup(subprocess.run, [XORG_DUMMY, "stop", self.display], timeout=60)
+        self.display = self.xorg_outputs(3)
 
     def test_every_crtc_is_tinted_but_the_ignored_one(self):
         make_linear(self.display)
