@@ -11,7 +11,7 @@ import tempfile
 import threading
 import unittest
 
-from harness import TOOLS_DIR, wait_for
+from harness import TOOLS_DIR, alive, descendants, wait_for
 
 HOST = os.environ.get("OVRA_WEB_HOST", "")
 PAGE = b"""<html><body style="margin:0;background:#36c"><script>
@@ -108,29 +108,6 @@ class Host:
             self.proc.stdin.close()
         self.proc.wait(timeout=30)
         self.stderr.close()
-
-
-def descendants(pid):
-    children = {}
-    for entry in os.listdir("/proc"):
-        try:
-            with open("/proc/%s/stat" % entry) as f:
-                children.setdefault(int(f.read().rsplit(")", 1)[1].split()[1]), []).append(int(entry))
-        except (OSError, ValueError, IndexError):
-            pass
-    found, i = [pid], 0
-    while i < len(found):
-        found += children.get(found[i], [])
-        i += 1
-    return found[1:]
-
-
-def alive(pid):
-    try:
-        with open("/proc/%d/stat" % pid) as f:
-            return f.read().rsplit(")", 1)[1].split()[0] != "Z"
-    except OSError:
-        return False
 
 
 class WebHostTest(unittest.TestCase):
