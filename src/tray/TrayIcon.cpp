@@ -248,9 +248,11 @@ bool TrayIcon::is_visible() const
     return isVisible() && QSystemTrayIcon::isSystemTrayAvailable();
 }
 
+// Asked every second; the tray hears of it only when the words change.
 void TrayIcon::set_tooltip(const QString& text)
 {
-    setToolTip(text);
+    if (text != toolTip())
+        setToolTip(text);
 }
 
 void TrayIcon::show_message(const QString& title, const QString& text)

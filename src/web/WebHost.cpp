@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QTimer>
 #include <cstdio>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
@@ -114,6 +115,9 @@ void WebHost::end_host()
     // What the host still says is about windows that no longer count.
     disconnect(process, nullptr, this, nullptr);
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    // A page's traffic leaves the heap full of freed pieces; the resident
+    // program gives them back to the system once its windows have all gone.
+    connect(process, &QProcess::finished, process, [] { malloc_trim(0); });
     process->closeWriteChannel();
     QTimer::singleShot(k_exit_grace_ms, process, [process] { process->kill(); });
 }
