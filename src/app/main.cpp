@@ -29,7 +29,16 @@ int main(int argc, char** argv)
     if (!DisplayProbe::display_reachable())
         return 1;
 
+    // Qt's own event loop does less at each wake-up than GLib's, and the
+    // program wakes every second for good. Only the Unity indicator, a GTK
+    // library, needs GLib's loop turning. The window host keeps its default.
+    const bool unity = qEnvironmentVariable("XDG_CURRENT_DESKTOP").toLower() == QLatin1String("unity");
+    const bool own_loop = !unity && !qEnvironmentVariableIsSet("QT_NO_GLIB");
+    if (own_loop)
+        qputenv("QT_NO_GLIB", "1");
     SingleApplication app(argc, argv);
+    if (own_loop)
+        qunsetenv("QT_NO_GLIB");
     MainWindow window(nullptr);
     app.setMainWindow(&window);
     if (argc > 1) {
