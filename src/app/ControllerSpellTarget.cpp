@@ -4,6 +4,8 @@
 #include <QUrl>
 
 #include "app/MainWindow.h"
+#include "settings/ExportSettings.h"
+#include "settings/ImportSettings.h"
 #include "settings/SaveManager.h"
 #include "spells/SpellHelpFile.h"
 
@@ -205,8 +207,19 @@ void ControllerSpellTarget::export_settings()
     window->export_settings();
 }
 
-// The one-word form of the exchange format comes with import and export:
-// its reader fills the store, then window->restore_settings() brings the
-// map and the page along; its writer goes through the export dialog.
-void ControllerSpellTarget::import_settings_from_string(const QString&) {}
-void ControllerSpellTarget::export_settings_as_string() {}
+// The word arrives lower-cased, and so do the keys in it: they land in the
+// store as keys of their own.
+void ControllerSpellTarget::import_settings_from_string(const QString& text)
+{
+    if (!SaveManager::s_instance)
+        return;
+    ImportSettings().import_settings_from_string(SaveManager::s_instance->get_settings(), text);
+    window->restore_settings();
+}
+
+// The word goes into a file too, to be copied from there into a spell.
+void ControllerSpellTarget::export_settings_as_string()
+{
+    if (SaveManager::s_instance)
+        ExportSettings().export_settings(SaveManager::s_instance->get_settings(), true);
+}

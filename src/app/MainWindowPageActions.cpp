@@ -11,6 +11,8 @@
 #include "hotkeys/HotkeyProcessor.h"
 #include "overlays/IScreenOverlays.h"
 #include "settings/Defines.h"
+#include "settings/ExportSettings.h"
+#include "settings/ImportSettings.h"
 #include "settings/SaveKeys.h"
 #include "settings/SaveManager.h"
 #include "spells/HiddenFeatures.h"
@@ -115,10 +117,21 @@ void MainWindow::reset_settings_to_default()
     refresh_scale();
 }
 
-// The file dialogs of the exchange format come with the import and export
-// part; until then the buttons do nothing.
-void MainWindow::import_settings() {}
-void MainWindow::export_settings() {}
+// The exchange format works on the store itself: an import writes there and
+// the map and the page are then read back from it.
+void MainWindow::import_settings()
+{
+    if (!SaveManager::s_instance)
+        return;
+    ImportSettings().import_settings(SaveManager::s_instance->get_settings());
+    restore_settings();
+}
+
+void MainWindow::export_settings()
+{
+    if (SaveManager::s_instance)
+        ExportSettings().export_settings(SaveManager::s_instance->get_settings(), false);
+}
 
 // ---------------------------------------------------------------- window
 

@@ -56,3 +56,11 @@ class SpellsFromASecondLaunch(OvraTestCase):
         self.assertTrue(wait_for(lambda: "UseGammaFixer" in self.stored()),
                         "no full save after an invalid spell")
         self.assertEqual(self.stored().get("NightTemperature"), "3400")
+
+    def test_an_import_spell_writes_its_lower_cased_records_to_the_store(self):
+        # The spell's word is lower-cased, so its keys land beside the real ones.
+        self.cast("import", "nighttemperature=3000[sep]foo=12[minus]30[sep]bad")
+        self.assertTrue(wait_for(lambda: self.stored().get("foo") == "12-30"), self.stored())
+        self.assertEqual(self.stored().get("nighttemperature"), "3000")
+        self.assertEqual(self.stored().get("NightTemperature"), "3400")
+        self.assertIn("bad is invalid line\n", self.first.stdout())
