@@ -14,7 +14,22 @@
     return in_content_script ? chrome.extension.getURL("html/" + name) : "../html/" + name;
   }
 
+  // js/page_bundle.js, made at build time, holds most files by the name the
+  // page asks for, so that opening the page does not wait for a request per
+  // file. A file it lacks, or a page served without it, is still fetched.
+  function bundled_text(name) {
+    var files = global.page_bundle;
+    if (files && Object.prototype.hasOwnProperty.call(files, name)) {
+      return files[name];
+    }
+    return null;
+  }
+
   function read_file(name) {
+    var text = bundled_text(name);
+    if (text !== null) {
+      return text;
+    }
     var request = new XMLHttpRequest();
     request.open("GET", resolve_name(name), false);
     try {
