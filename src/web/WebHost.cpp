@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTimer>
+#include <cerrno>
 #include <cstdio>
 #include <malloc.h>
 #include <unistd.h>
@@ -14,6 +15,8 @@
 namespace {
 
 const int k_start_timeout_ms = 5000;
+// Below ovra's priority: see start().
+const int HOST_NICENESS = 10;
 // How long an ended host may take to leave before it is killed.
 const int k_exit_grace_ms = 1000;
 
@@ -90,6 +93,15 @@ bool WebHost::start()
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("OVRA_WEB_PARENT"), QString::number(qint64(getpid())));
     process->setProcessEnvironment(env);
+    // On a busy machine the engine's start fills every core for a second;
+    // a colour fade in ovra must not wait for it. Pages still get the CPU
+    // that nothing else wants.
+    process->setChildProcessModifier([] {
+        // Refused, the host runs at ovra's own priority: slower fades, no harm.
+        errno = 0;
+        if (nice(HOST_NICENESS) == -1 && errno != 0)
+            return;
+    });
     process->start(QIODevice::ReadWrite);
     if (!process->waitForStarted(k_start_timeout_ms)) {
         fprintf(stderr, "ovra: window host %s did not start: %s\n", qPrintable(path),
