@@ -34,28 +34,9 @@ def arguments():
     return parser.parse_args()
 
 
-def family(pid):
-    """The process and all its descendants."""
-    children = {}
-    for name in os.listdir("/proc"):
-        if name.isdigit():
-            try:
-                with open("/proc/%s/stat" % name) as f:
-                    parent = int(f.read().rsplit(")", 1)[1].split()[1])
-            except (OSError, IndexError, ValueError):
-                continue
-            children.setdefault(parent, []).append(int(name))
-    found, todo = [], [pid]
-    while todo:
-        current = todo.pop()
-        found.append(current)
-        todo.extend(children.get(current, []))
-    return found
-
-
 def measure(label, pid, seconds):
     """CPU in ms a second of the process and its descendants."""
-    members = family(pid)
+    members = [pid] + benchkit.descendants(pid)
     before = {p: benchkit.sample(p) for p in members}
     time.sleep(seconds)
     total_ms = wakeups = 0.0

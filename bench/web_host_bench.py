@@ -14,6 +14,9 @@ import sys
 import threading
 import time
 
+sys.dont_write_bytecode = True
+import benchkit  # noqa: E402
+
 build = sys.argv[1] if len(sys.argv) > 1 else "build"
 runs = int(sys.argv[2]) if len(sys.argv) > 2 else 5
 host_binary = os.path.abspath(os.path.join(build, "ovra-web"))
@@ -68,30 +71,14 @@ class Host:
 
 
 def tree(pid):
-    children = {}
-    for entry in os.listdir("/proc"):
-        try:
-            with open("/proc/%s/stat" % entry) as f:
-                parent = int(f.read().rsplit(")", 1)[1].split()[1])
-            children.setdefault(parent, []).append(int(entry))
-        except (OSError, ValueError, IndexError):
-            pass
-    found, i = [pid], 0
-    while i < len(found):
-        found += children.get(found[i], [])
-        i += 1
-    return found
+    return [pid] + benchkit.descendants(pid)
 
 
 def pss_kib(pid):
     try:
-        with open("/proc/%d/smaps_rollup" % pid) as f:
-            for line in f:
-                if line.startswith("Pss:"):
-                    return int(line.split()[1])
+        return benchkit.memory_kib(pid)[1]
     except OSError:
-        pass
-    return 0
+        return 0
 
 
 def alive(pid):
@@ -100,11 +87,6 @@ def alive(pid):
             return f.read().rsplit(")", 1)[1].split()[0] != "Z"
     except OSError:
         return False
-
-
-def median(values):
-    values = sorted(values)
-    return values[len(values) // 2]
 
 
 def timings():
@@ -118,7 +100,7 @@ def timings():
     for name, values in (("cold (host started by the open)", cold),
                          ("warm (host already running)", warm)):
         print("%-34s open->mapped median %4.0f ms, open->loaded median %4.0f ms  (%d runs)" % (
-            name, 1000 * median([m for m, _ in values]), 1000 * median([l for _, l in values]),
+            name, 1000 * benchkit.median([m for m, _ in values]), 1000 * benchkit.median([l for _, l in values]),
             len(values)))
 
 

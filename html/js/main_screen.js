@@ -38,7 +38,7 @@ var current_process_shown = false;
 // The modules, in load order, each bound to a global of its file's name.
 var MODULE_FILES = [
   "js/api/keeper/save_keys.js", "js/api/keeper/defines.js", "js/api/keeper/save_manager.js",
-  "js/api/hellboy/color_ramp.js", "js/api/spector/spector.js",
+  "js/api/hellboy/color_ramp.js", "js/api/page_tint/page_tint.js",
   "js/modules/page_loading.js", "js/modules/features.js", "js/modules/websites_blocking.js",
   "js/modules/window_dimensions.js", "js/modules/keyboard_manager.js", "js/modules/monitors.js",
   "js/components/setters.js", "js/components/folds.js", "js/components/forms.js",

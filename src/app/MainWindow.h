@@ -788,5 +788,7 @@ private:
     SettingRef timer_paused_setting{settings, SaveKeys::IS_TIMER_PAUSED};
     SettingRef use_sounds_setting{settings, SaveKeys::USE_SOUNDS};
     SettingRef use_per_monitor_setting{settings, SaveKeys::USE_PER_MONITOR_SETTINGS};
+    SettingRef use_mouse_inactivity_setting{settings, SaveKeys::USE_MOUSE_INACTIVITY};
+    SettingRef use_keyboard_inactivity_setting{settings, SaveKeys::USE_KEYBOARD_INACTIVITY};
     // End of Spells and the status texts ---------------------------------------
 };

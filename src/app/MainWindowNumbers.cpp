@@ -29,11 +29,7 @@ void MainWindow::postpone_time_changed(int value)
 void MainWindow::rest_screen_type_changed(int value)
 {
     store_setting(REST_SCREEN_TYPE, value, &MainWindow::set_rest_screen_type_dropdown_value,
-                  [this] {
-                      if (rest_timer)
-                          rest_timer->set_rest_screen_type(
-                              settings[QString::fromLatin1(REST_SCREEN_TYPE)].toInt());
-                  });
+                  [this] { refresh_rest_screen_type(); });
 }
 
 // The automatic clicker reads it when it starts.

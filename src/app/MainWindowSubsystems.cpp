@@ -40,10 +40,9 @@ void MainWindow::stop_rest_timer()
 
 void MainWindow::update_idle_time()
 {
-    if (settings[SaveKeys::IS_TIMER_PAUSED].toBool())
+    if (timer_paused_setting.to_bool())
         return;
-    if (!settings[SaveKeys::USE_MOUSE_INACTIVITY].toBool()
-        && !settings[SaveKeys::USE_KEYBOARD_INACTIVITY].toBool()) {
+    if (!use_mouse_inactivity_setting.to_bool() && !use_keyboard_inactivity_setting.to_bool()) {
         if (idle_paused) {
             idle_paused = false;
             start_rest_timer();

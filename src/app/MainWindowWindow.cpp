@@ -71,8 +71,8 @@ void MainWindow::load_finished()
     ovra_loaded = true;
     set_gamma_ui();
     load_finished_linux();
+    // Forced, the language also sends the times report in its words.
     language_changed_force(settings[SaveKeys::LANGUAGE].toString(), true);
-    update_times_info();
     if (tray_icon)
         tray_icon->refresh_tray_icon_menu();
 }

@@ -47,6 +47,7 @@ long IdleTime::idle_msecs()
 
 int IdleTime::threshold_seconds()
 {
-    const int given = qEnvironmentVariableIntValue("OVRA_TEST_IDLE_SECONDS");
+    // Asked every second; the environment does not change under us.
+    static const int given = qEnvironmentVariableIntValue("OVRA_TEST_IDLE_SECONDS");
     return given > 0 ? given : IDLE_THRESHOLD_SECONDS;
 }

@@ -35,7 +35,6 @@ QString RestScreenStandard::start_script() const
 void RestScreenSimple::page_loaded(bool ok)
 {
     OvraWindow::page_loaded(ok);
-    loaded = false;
     shown_seconds = -2;
     shown_type.clear();
     if (ok)
@@ -45,7 +44,6 @@ void RestScreenSimple::page_loaded(bool ok)
 void RestScreenSimple::load_finished()
 {
     update_ui();
-    loaded = true;
     evaluate_JavaScript(start_script());
 }
 

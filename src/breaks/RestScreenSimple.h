@@ -31,7 +31,6 @@ protected:
     virtual QString start_script() const;
 
 private:
-    bool loaded = false;
     // What the page was last told, so that a second repeats nothing.
     int shown_seconds = -2;
     QString shown_type;

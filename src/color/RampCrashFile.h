@@ -41,8 +41,8 @@ public:
     // the same length; a write torn by a kill shows as a bad checksum, and
     // the file is then only ignored.
     static bool write_in_place(int fd, const std::vector<KeptCrtcRamps>& crtcs);
-    // Invalid comes with a short reason (bad magic, truncated, ...).
     static QByteArray encode(const std::vector<KeptCrtcRamps>& crtcs);
+    // Invalid comes with a short reason (bad magic, truncated, ...).
     LoadResult load(std::vector<KeptCrtcRamps>* crtcs, QString* reason) const;
     void remove() const;
 

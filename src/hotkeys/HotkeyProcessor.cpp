@@ -165,10 +165,7 @@ void HotkeyProcessor::reset_shortcuts()
 
 QVariantList HotkeyProcessor::get_shortcuts_values()
 {
-    QVariantList values{QString()};
-    for (const QString& key : SettingsTable::hotkey_keys())
-        values << settings[key].toString();
-    return values;
+    return SettingsTable::shortcut_values(settings);
 }
 
 // A text that is no combination clears its hotkey, which then stays silent.

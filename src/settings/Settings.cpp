@@ -33,15 +33,6 @@ QString text(const SettingsMap& settings, const char* key)
     return read(settings, key).toString();
 }
 
-QVariantList shortcuts_from_map(const SettingsMap& settings)
-{
-    // Position 0 is empty so that a position equals the hotkey's index.
-    QVariantList values{QString()};
-    for (const QString& key : SettingsTable::hotkey_keys())
-        values.append(text(settings, key.toLatin1().constData()));
-    return values;
-}
-
 QStringList default_about_texts()
 {
     return {QString::fromUtf8(Defines::APPLICATION_NAME), QCoreApplication::applicationVersion(),
@@ -151,7 +142,7 @@ void Settings::restore_settings()
         boolean(s, SaveKeys::MOUSE_PAUSERS_PAUSE_ON_FULLSCREEN_APPS));
 
     emit set_shortcuts_values(host.shortcuts_values ? host.shortcuts_values()
-                                                    : shortcuts_from_map(s));
+                                                    : SettingsTable::shortcut_values(s));
 
     QStringList about = host.about_texts ? host.about_texts() : default_about_texts();
     while (about.size() < 4)

@@ -237,6 +237,16 @@ QString hotkey_key(int index)
     return hotkey_keys().value(index - 1);
 }
 
+QVariantList shortcut_values(const std::map<QString, QVariant>& settings)
+{
+    QVariantList values{QString()};
+    for (const QString& key : hotkey_keys()) {
+        const auto found = settings.find(key);
+        values << (found == settings.end() ? QString() : found->second.toString());
+    }
+    return values;
+}
+
 QVariant convert(const QVariant& stored, SettingType type)
 {
     switch (type) {

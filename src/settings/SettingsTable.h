@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <map>
 #include <vector>
 
 // How each stored value is read back, and what a store without it yields.
@@ -45,6 +46,10 @@ const std::vector<SettingEntry>& pass_keys();
 
 // The fourteen hotkey keys in the order of the hotkey table.
 const QStringList& hotkey_keys();
+
+// The page's list of combinations: position 0 empty, so that a position
+// equals the hotkey's index, then each hotkey's stored text.
+QVariantList shortcut_values(const std::map<QString, QVariant>& settings);
 
 // The key of a hotkey by the page's index, which counts from 1; an empty
 // text outside 1 to 14.

@@ -6,9 +6,8 @@ import socket
 import subprocess
 
 import cdp
-from harness import OvraTestCase, wait_for
+from harness import TOOLS_DIR as TOOLS, OvraTestCase, wait_for
 
-TOOLS = os.path.dirname(os.environ.get("OVRA_RAMPS", ""))
 REST = "Rest screen"
 
 

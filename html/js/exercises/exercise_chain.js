@@ -23,9 +23,9 @@ function run_exercise_chain(steps, icon) {
     setScreenSize();
   }
 
+  // The window goes once the card has: the page hears "notification-removed".
   function finish() {
     Notifier.removeNotification(id);
-    setTimeout(deleteWindow, 500);
   }
 
   show(0);

@@ -17,7 +17,7 @@ forms.slider(exports, {
   follow: function (value) {
     // With no program behind the page, the page itself shows the tint.
     if (!has_native_side() && "day" === "day") {
-      spector.set_tint(value, 100);
+      page_tint.set_tint(value, 100);
     }
   }
 });
