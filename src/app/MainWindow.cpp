@@ -61,6 +61,7 @@ MainWindow::MainWindow(QObject* parent)
     setup_hotkeys();
 
     translator = new Translator(this);
+    translate_status_words();
     spell_target = new ControllerSpellTarget(this);
     hidden_features = new HiddenFeatures(spell_target);
     features_settings =

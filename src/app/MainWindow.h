@@ -776,6 +776,20 @@ public:
 
 private:
     QString status_values();
+    // The status line's words, translated once per language rather than
+    // every second.
+    void translate_status_words();
+    struct StatusWords
+    {
+        QString until, work, rest, paused;
+    } status_words;
+    // The shared values' text, rebuilt only when they change.
+    struct
+    {
+        int temperature = -1;
+        int brightness = -1;
+        QString text;
+    } shared_status;
     // The status to the page, the icon to the tray; values already worked
     // out this second may be passed in.
     void publish_status(const QString* known_values);

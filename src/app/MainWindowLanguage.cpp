@@ -38,6 +38,7 @@ void MainWindow::language_changed_force(QString country_code, bool force)
         qDebug() << "LANGUAGE: " << country_code;
         if (translator)
             translator->set_locale(country_code);
+        translate_status_words();
         if (tray_icon)
             tray_icon->refresh_tray_icon_actions();
         update_times_info();

@@ -17,9 +17,14 @@ const int BIP_MILLISECONDS = 2999;
 // otherwise the values last written.
 QString MainWindow::status_values()
 {
-    if (!use_per_monitor_setting.to_bool())
-        return QString::number(current_temperature) + "K / " + QString::number(current_brightness) +
-               "%";
+    if (!use_per_monitor_setting.to_bool()) {
+        if (shared_status.temperature != current_temperature ||
+            shared_status.brightness != current_brightness)
+            shared_status = {current_temperature, current_brightness,
+                             QString::number(current_temperature) + "K / " +
+                                 QString::number(current_brightness) + "%"};
+        return shared_status.text;
+    }
     QString text;
     const int count = get_screen_count();
     for (int monitor = 1; monitor <= count; ++monitor) {
@@ -32,6 +37,11 @@ QString MainWindow::status_values()
     return text;
 }
 
+void MainWindow::translate_status_words()
+{
+    status_words = {tr("until"), tr("work"), tr("rest"), tr("Paused")};
+}
+
 void MainWindow::update_ui()
 {
     // A monitor came or went: the page's list and the overlays follow.
@@ -41,12 +51,12 @@ void MainWindow::update_ui()
     }
 
     QString remaining = QStringLiteral(" ");
-    const QString until = tr("until");
+    const QString& until = status_words.until;
     QString phase;
     if (!timer_paused_setting.to_bool() && !timer_auto_paused && rest_timer &&
         !rest_timer->is_paused()) {
         if (rest_timer->get_remaining_work_int() < 1) {
-            phase = tr("work");
+            phase = status_words.work;
             remaining = rest_timer->get_remaining_rest_string();
             if (ovra_loaded)
                 emit set_remaining_time(remaining, until, phase);
@@ -54,7 +64,7 @@ void MainWindow::update_ui()
                 use_sounds_setting.to_bool())
                 rest_timer->start_bip_sound();
         } else {
-            phase = tr("rest");
+            phase = status_words.rest;
             remaining = rest_timer->get_remaining_work_string();
             if (ovra_loaded)
                 emit set_remaining_time(remaining, until, phase);
@@ -93,7 +103,7 @@ void MainWindow::update_ovra_status()
 void MainWindow::publish_status(const QString* known_values)
 {
     if (ovra_loaded)
-        emit set_ovra_status(ovra_paused_setting.to_bool() ? tr("Paused")
+        emit set_ovra_status(ovra_paused_setting.to_bool() ? status_words.paused
                              : known_values                ? *known_values
                                                            : status_values());
     if (tray_icon)

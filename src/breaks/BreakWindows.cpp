@@ -125,7 +125,7 @@ void BreakWindows::set_productive_resting(bool resting)
 
 void BreakWindows::update()
 {
-    for (IRestScreen* screen : rest_screens)
+    for (IRestScreen* screen : std::as_const(rest_screens))
         screen->update_ui();
     if (postpone_break)
         postpone_break->update_ui();

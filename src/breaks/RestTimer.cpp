@@ -313,6 +313,7 @@ void RestTimer::delete_productive()
 
 void RestTimer::translate()
 {
+    time_words() = translated_time_words();
     windows->translate();
 }
 
@@ -322,9 +323,12 @@ bool RestTimer::is_rest_coming(QString& message)
         return false;
     const int left = work_timer->remaining() / 1000;
     const int tenth = work_time / 10000;
+    const bool tenth_left = left == tenth && work_time > 599999;
+    if (!tenth_left && left != 30)
+        return false;
     const QString name = QCoreApplication::applicationName();
     QString text;
-    if (left == tenth && work_time > 599999)
+    if (tenth_left)
         text = name + ' ' + tr("reminds you that a big rest will occur in") + ' '
                + QString::number(tenth / 60) + ' ' + tr("minutes") + '.';
     else if (left == 30)
@@ -386,12 +390,26 @@ QString RestTimer::get_remaining_work_productive() const
     return remaining_text(work_timer->remaining(), true);
 }
 
+// The units of the remaining time, shown every second: translated when the
+// language changes, not at each showing.
+RestTimer::TimeWords& RestTimer::time_words()
+{
+    static TimeWords words = translated_time_words();
+    return words;
+}
+
+RestTimer::TimeWords RestTimer::translated_time_words()
+{
+    return {tr("sec"), tr("min"), tr("hour")};
+}
+
 void RestTimer::format_time(QString& text, int hours, int minutes, int seconds)
 {
-    const QString s = QString::number(seconds) + ' ' + tr("sec");
-    const QString m = QString::number(minutes) + ' ' + tr("min") + ' ';
+    const TimeWords& words = time_words();
+    const QString s = QString::number(seconds) + ' ' + words.sec;
+    const QString m = QString::number(minutes) + ' ' + words.min + ' ';
     if (hours >= 1)
-        text = QString::number(hours) + ' ' + tr("hour") + ' ' + m + s;
+        text = QString::number(hours) + ' ' + words.hour + ' ' + m + s;
     else if (minutes >= 1)
         text = m + s;
     else

@@ -85,6 +85,12 @@ private:
     void start_work(int msecs);
     void set_tick_sound(bool play);
     static QString remaining_text(int msecs, bool productive);
+    struct TimeWords
+    {
+        QString sec, min, hour;
+    };
+    static TimeWords& time_words();
+    static TimeWords translated_time_words();
 
     Countdown* work_timer;
     Countdown* rest_timer;

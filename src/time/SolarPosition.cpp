@@ -6,6 +6,8 @@
 #include "time/Sun.h"
 #include "time/TimeStrings.h"
 
+#include <cmath>
+
 namespace {
 double now_seconds()
 {
@@ -121,7 +123,14 @@ void SolarPosition::prepare_sun(const SolarInterpolationValues& v)
 
 float SolarPosition::moon_offset(double now, int new_moon_offset, int full_moon_offset)
 {
-    const double p = moon->moon_phase(now);
+    // The phase takes a month to go round: worked out once a minute, it
+    // moves an offset of hours by a fraction of a second.
+    const qint64 minute = static_cast<qint64>(std::floor(now / 60.0));
+    if (minute != moon_minute) {
+        moon_minute = minute;
+        moon_phase = moon->moon_phase(now);
+    }
+    const double p = moon_phase;
     return static_cast<float>(p * full_moon_offset + (1.0 - p) * new_moon_offset);
 }
 

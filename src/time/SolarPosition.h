@@ -73,5 +73,7 @@ private:
 
     Sun* sun;
     Moon* moon;
+    qint64 moon_minute = -1;
+    double moon_phase = 0.0;
     TransitionType transition_type = TRANSITION_DAY;
 };

@@ -66,15 +66,16 @@ void Sun::setCurrentDate(int year, int month, int day)
 
 double Sun::sun_event_v2(bool rise)
 {
-    const QDateTime now = Clock::instance()->now();
     // The event depends on the local date and on the whole UTC day the
-    // cycle is counted from; both can change at different moments.
-    const qint64 local_day = now.date().toJulianDay();
-    const qint64 utc_day = now.toMSecsSinceEpoch() / qint64(86400000);
+    // cycle is counted from; both can change at different moments. The local
+    // day is told by its midnight, which the clock keeps without a date.
+    const Clock* clock = Clock::instance();
+    const qint64 local_day = clock->today_midnight_msecs();
+    const qint64 utc_day = clock->now_msecs_since_epoch() / qint64(86400000);
     CachedEvent& cached = cached_events[rise ? 0 : 1];
     if (!cached.valid || cached.local_day != local_day || cached.utc_day != utc_day
         || cached.latitude != latitude || cached.longitude != longitude) {
-        cached = {true, local_day, utc_day, latitude, longitude, compute_sun_event_v2(rise, now)};
+        cached = {true, local_day, utc_day, latitude, longitude, compute_sun_event_v2(rise, clock->now())};
     }
     return cached.msecs;
 }

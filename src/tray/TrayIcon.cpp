@@ -35,10 +35,21 @@ const int MODE_MANUAL = 2;
 const int MODE_PAUSED = 3;
 
 const int MESSAGE_MSECS = 10000;
+
+const SettingsMap& map_of(const TrayHost& host)
+{
+    static const SettingsMap empty;
+    return host.settings ? *host.settings : empty;
+}
 } // namespace
 
 TrayIcon::TrayIcon(TrayHost host, QObject* parent)
-    : QSystemTrayIcon(parent), host(std::move(host))
+    : QSystemTrayIcon(parent)
+    , host(std::move(host))
+    , ghost_setting(map_of(this->host), SaveKeys::USE_GHOST_ICON)
+    , optimize_ui_setting(map_of(this->host), SaveKeys::OPTIMIZE_UI_CREATION)
+    , spinning_setting(map_of(this->host), SaveKeys::USE_SPINNING_TRAY_ICON)
+    , may_spin(QCoreApplication::applicationName() == QLatin1String(Defines::APPLICATION_NAME_OVRA))
 {
     create_tray_icon();
     refresh_selected_type();
@@ -195,13 +206,13 @@ void TrayIcon::refresh_selected_mode()
 void TrayIcon::update_tray_icon(bool changing)
 {
     // The ghost hides every state, and so every change of state.
-    if (setting(SaveKeys::USE_GHOST_ICON)) {
+    if (ghost_setting.to_bool()) {
         turn.stop();
         show_art(TrayArt::Ghost, 0);
         return;
     }
     const bool loaded = host.is_ovra_loaded && host.is_ovra_loaded();
-    if (!loaded && !setting(SaveKeys::OPTIMIZE_UI_CREATION)) {
+    if (!loaded && !optimize_ui_setting.to_bool()) {
         turn.stop();
         show_art(TrayArt::Red, 0);
     } else if (host.is_ovra_paused && host.is_ovra_paused()) {
@@ -214,9 +225,7 @@ void TrayIcon::update_tray_icon(bool changing)
 
 void TrayIcon::set_green_tray_icon(bool changing)
 {
-    const bool spinning = setting(SaveKeys::USE_SPINNING_TRAY_ICON)
-                          && QCoreApplication::applicationName()
-                                 == QLatin1String(Defines::APPLICATION_NAME_OVRA);
+    const bool spinning = may_spin && spinning_setting.to_bool();
     if (spinning)
         turn.colors_changing(changing);
     else

@@ -3,6 +3,7 @@
 #include <QSystemTrayIcon>
 #include <array>
 
+#include "settings/SettingRef.h"
 #include "tray/ITrayIcon.h"
 #include "tray/TrayArt.h"
 #include "tray/TrayHost.h"
@@ -72,6 +73,12 @@ private:
     QString text(const char* key) const;
 
     TrayHost host;
+    // Read every second by the icon; a tray without a map reads an empty one.
+    SettingRef ghost_setting;
+    SettingRef optimize_ui_setting;
+    SettingRef spinning_setting;
+    // Only the program itself spins; a renamed build stays still.
+    bool may_spin = false;
     QMenu* menu = nullptr;
     QMenu* mode_menu = nullptr;
     std::array<QMenu*, 3> pauser_menus{};
