@@ -139,8 +139,9 @@ void HostWindow::show_in(ShowState state, quint32 user_time)
     // The window manager judges a new window by its user time when it maps
     // it. Qt, at the show, writes its own last event time on a user time
     // window of its making, which the manager reads instead: the user's time
-    // goes there again right behind the map request, before the manager can
-    // answer it. The activation request below carries it either way.
+    // goes there again right behind the map request, in the same stream, so
+    // that a manager that reads it on the map request reads ours. The
+    // activation request below carries it either way.
     const bool mark = !was_visible && wants_focus && user_time;
     if (mark)
         X11Window::set_user_time(xid(), user_time);

@@ -65,9 +65,19 @@ class WindowFocus(OvraTestCase):
         self.addCleanup(self.watch.stop)
 
     def root_property(self, name):
-        out = subprocess.run(["xprop", "-root", name], env=self.env, capture_output=True,
+        return self.window_property("-root", name)
+
+    def window_property(self, where, name):
+        out = subprocess.run(["xprop", *where.split(), name], env=self.env, capture_output=True,
                              text=True, timeout=10).stdout
-        return out.split()[-1] if "#" in out else ""
+        return out.split()[-1] if "=" in out or "#" in out else ""
+
+    def user_time(self, window):
+        """The user time the window manager reads for the window."""
+        holder = self.window_property("-id %d" % window, "_NET_WM_USER_TIME_WINDOW")
+        where = "-id " + holder if holder.startswith("0x") else "-id %d" % window
+        value = self.window_property(where, "_NET_WM_USER_TIME")
+        return int(value) if value.isdigit() else 0
 
     def settings_windows(self):
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", SETTINGS_TITLE],
@@ -110,6 +120,7 @@ class WindowFocus(OvraTestCase):
         self.wait_until_active(window)
         self.assertEqual(self.watch.expect("active 0x%x " % window),
                          "active 0x%x 1 %d" % (window, stamp))
+        self.assertEqual(self.user_time(window), stamp)
 
     def test_a_second_launch_brings_the_settings_window_forward(self):
         # A first launch that opens no window only ends its feedback.
