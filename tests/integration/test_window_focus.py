@@ -100,11 +100,11 @@ class WindowFocus(OvraTestCase):
             return wait_for(lambda: self.active_window() == self.watch.other, timeout=1)
         self.assertTrue(wait_for(focused, timeout=10), "the other window never became active")
 
-    def launch_with(self, startup_id):
+    def launch_with(self, startup_id, *words):
         env = dict(self.env)
         if startup_id is not None:
             env["DESKTOP_STARTUP_ID"] = startup_id
-        second = self.launch(env=env)
+        second = self.launch(*words, env=env)
         self.assertEqual(second.returncode, 0, second.stderr)
 
     def wait_until_active(self, window):
@@ -157,5 +157,13 @@ class WindowFocus(OvraTestCase):
                 self.wait_until_active(window)
                 self.assertEqual(self.watch.expect("active 0x%x " % window),
                                  "active 0x%x 2 0" % window)
+        # Words that open the window carry the launch's time as well.
+        self.focus_other()
+        stamp = self.watch.now()
+        self.launch_with("words_TIME%d" % stamp, "open")
+        self.assertEqual(self.watch.expect("startup "), "startup remove: ID=words_TIME%d" % stamp)
+        self.wait_until_active(window)
+        self.assertEqual(self.watch.expect("active 0x%x " % window),
+                         "active 0x%x 1 %d" % (window, stamp))
         self.assertTrue(p.alive())
         self.assertEqual(self.settings_windows(), [str(window)])
