@@ -11,6 +11,7 @@ packages="build-essential cmake ninja-build pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
   libayatana-appindicator3-dev
   xvfb xauth x11-xserver-utils x11-utils xserver-xorg-core xserver-xorg-video-dummy xdotool trayer
+  openbox
   python3"
 missing=""
 for p in $packages; do

@@ -17,6 +17,7 @@
 #include "settings/SaveKeys.h"
 #include "color/IGamma.h"
 #include "hotkeys/HotkeyProcessor.h"
+#include "services/LaunchFeedback.h"
 #include "services/OnlineState.h"
 #include "services/Translator.h"
 #include "services/Updater.h"
@@ -25,6 +26,7 @@
 #include "settings/Settings.h"
 #include "settings/SettingsHost.h"
 #include "web/PageWindows.h"
+#include "web/UserTime.h"
 #include "spells/HiddenFeatures.h"
 #include "tray/ITrayIcon.h"
 
@@ -144,6 +146,13 @@ void MainWindow::process_api_command()
     } else {
         bring_to_front();
     }
+}
+
+void MainWindow::process_launch(const QByteArray& startup_id)
+{
+    const quint32 launch_time = startup_id.isEmpty() ? 0 : LaunchFeedback::end_launch(startup_id);
+    UserTime::Scope launch(launch_time);
+    process_api_command();
 }
 
 void MainWindow::quit()

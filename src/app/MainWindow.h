@@ -805,4 +805,16 @@ private:
     SettingRef use_mouse_inactivity_setting{settings, SaveKeys::USE_MOUSE_INACTIVITY};
     SettingRef use_keyboard_inactivity_setting{settings, SaveKeys::USE_KEYBOARD_INACTIVITY};
     // End of Spells and the status texts ---------------------------------------
+
+    // Launches ------------------------------------------------------------------
+    // A launch's words come with its startup notification ID: the launcher's
+    // feedback ends, and a window the words open comes forward with the
+    // launch's time as the user's. Not a slot: the page has no launch to give.
+public:
+    void process_launch(const QByteArray& startup_id);
+
+private:
+    // The user's time of the open that waits for the page to load.
+    quint32 open_user_time = 0;
+    // End of Launches -----------------------------------------------------------
 };

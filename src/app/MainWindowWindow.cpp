@@ -13,6 +13,7 @@
 #include "settings/Settings.h"
 #include "tray/ITrayIcon.h"
 #include "web/PageWindows.h"
+#include "web/UserTime.h"
 
 namespace {
 const QSize START_SIZE(495, 475);
@@ -58,6 +59,7 @@ void MainWindow::page_gone()
     OvraWindow::page_gone();
     forget_page();
     open_after_load = false;
+    open_user_time = 0;
     if (page_warm_timer)
         page_warm_timer->stop();
 }
@@ -95,16 +97,22 @@ void MainWindow::set_open_ovra_after_load_finished(bool value)
     if (!is_page_open())
         create_ovra_ui();
     open_after_load = value;
+    open_user_time = value ? UserTime::current() : 0;
 }
 
 void MainWindow::open_ovra_after_load_finished()
 {
     if (window_opened_once)
         return;
-    if (open_after_load)
+    if (open_after_load) {
+        // The input that asked for the window is still its reason, however
+        // long the page took.
+        UserTime::Scope asked(open_user_time);
         bring_to_front();
+    }
     window_opened_once = true;
     open_after_load = false;
+    open_user_time = 0;
 }
 
 void MainWindow::bring_to_front()
@@ -114,12 +122,15 @@ void MainWindow::bring_to_front()
     if (is_page_open() && !page_in_host)
         close_page();
     if (!is_page_open()) {
-        if (create_ovra_ui())
+        if (create_ovra_ui()) {
             open_after_load = true;
+            open_user_time = UserTime::current();
+        }
         return;
     }
     if (!ovra_loaded) {
         open_after_load = true;
+        open_user_time = UserTime::current();
         return;
     }
     if (page_warm_timer)

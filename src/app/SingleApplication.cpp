@@ -10,13 +10,15 @@
 #include <unistd.h>
 
 #include "hotkeys/SystemKeyboard.h"
+#include "services/LaunchFeedback.h"
 #include "services/Updater.h"
 #include "services/Utils.h"
 #include "settings/SaveManager.h"
 #include "time/ClockPosition.h"
 #include "time/SolarPosition.h"
 
-SingleApplication::SingleApplication(int& argc, char** argv) : QApplication(argc, argv)
+SingleApplication::SingleApplication(int& argc, char** argv, const QByteArray& startup_id)
+    : QApplication(argc, argv)
 {
     const QString name = instance_name();
     {
@@ -27,7 +29,7 @@ SingleApplication::SingleApplication(int& argc, char** argv) : QApplication(argc
         // knock, so they must be on disk before the knock.
         store.sync();
         if (!store.value("AllowMultipleInstances", false).toBool())
-            run_guard(name);
+            run_guard(name, startup_id);
     }
     create_managers();
 }
@@ -77,7 +79,7 @@ QString SingleApplication::instance_name()
     return QDir(QDir::tempPath()).filePath(base + "-" + QString::number(getuid()));
 }
 
-void SingleApplication::run_guard(const QString& name)
+void SingleApplication::run_guard(const QString& name, const QByteArray& startup_id)
 {
     // The probe and the listen form one step under a per-user lock, so two
     // launches at the same moment cannot both find nobody and both listen.
@@ -90,7 +92,13 @@ void SingleApplication::run_guard(const QString& name)
     socket = new QLocalSocket();
     socket->connectToServer(name, QIODevice::ReadWrite);
     if (socket->waitForConnected(1000)) {
-        socket->close();
+        // One line, then the end of the connection: a running instance that
+        // reads nothing still takes the knock.
+        socket->write(startup_id + '\n');
+        socket->waitForBytesWritten(1000);
+        socket->disconnectFromServer();
+        if (socket->state() != QLocalSocket::UnconnectedState)
+            socket->waitForDisconnected(1000);
         if (locked)
             lock.unlock();
         std::exit(0);
@@ -112,8 +120,29 @@ void SingleApplication::slotConnectionEstablished()
 {
     if (!server)
         return;
-    server->nextPendingConnection();
-    emit process_arguments();
+    while (QLocalSocket* knock = server->nextPendingConnection()) {
+        connect(knock, &QLocalSocket::readyRead, this, [this, knock] { read_knock(knock); });
+        connect(knock, &QLocalSocket::disconnected, this, [this, knock] { read_knock(knock); });
+        // The launch may have written and gone before we got here.
+        read_knock(knock);
+    }
+}
+
+// The words are acted on once the launch's line is whole, or once the
+// launch has gone without one; each knock counts once.
+void SingleApplication::read_knock(QLocalSocket* knock)
+{
+    const bool gone = knock->state() == QLocalSocket::UnconnectedState;
+    const bool whole = knock->canReadLine();
+    if (!gone && !whole) {
+        // Nothing a launch writes is this long: the knock counts as it is.
+        if (knock->bytesAvailable() <= LaunchFeedback::MAX_ID_LENGTH)
+            return;
+    }
+    const QByteArray line = knock->readLine(LaunchFeedback::MAX_ID_LENGTH + 2).trimmed();
+    knock->disconnect(this);
+    knock->deleteLater();
+    emit process_arguments(LaunchFeedback::checked(line));
 }
 
 void SingleApplication::create_managers()

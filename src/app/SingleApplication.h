@@ -14,13 +14,17 @@ class Utils;
 
 // The application object. It keeps one instance running per user: a second
 // launch stores its words in the settings store, knocks on the running
-// instance's local socket and ends. It also owns the process-wide managers.
+// instance's local socket, says over it which launch it is (its startup
+// notification ID, often empty) and ends. It also owns the process-wide
+// managers.
 class SingleApplication : public QApplication
 {
     Q_OBJECT
 
 public:
-    SingleApplication(int& argc, char** argv);
+    // `startup_id` is the launch's startup notification ID, taken from the
+    // environment before Qt could claim it; a second launch hands it over.
+    SingleApplication(int& argc, char** argv, const QByteArray& startup_id = {});
     ~SingleApplication() override;
 
     void setMainWindow(MainWindow* window) { main_window = window; }
@@ -41,13 +45,16 @@ public:
 
 signals:
     void show_up();
-    void process_arguments();
+    // The words in the store are new; `startup_id` names the launch that
+    // brought them, empty when it had none.
+    void process_arguments(const QByteArray& startup_id);
 
 public slots:
     void slotConnectionEstablished();
 
 private:
-    void run_guard(const QString& name);
+    void run_guard(const QString& name, const QByteArray& startup_id);
+    void read_knock(QLocalSocket* knock);
 
     SaveManager* save_manager = nullptr;
     SystemKeyboard* system_keyboard = nullptr;

@@ -5,7 +5,9 @@
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
 #include "services/DisplayProbe.h"
+#include "services/LaunchFeedback.h"
 #include "settings/SaveKeys.h"
+#include "web/UserTime.h"
 
 int main(int argc, char** argv)
 {
@@ -32,17 +34,24 @@ int main(int argc, char** argv)
     // Qt's own event loop does less at each wake-up than GLib's, and the
     // program wakes every second for good. Only the Unity indicator, a GTK
     // library, needs GLib's loop turning. The window host keeps its default.
+    // Before Qt, which would take the launch for the first window this
+    // process maps, and before anything is started that would inherit it.
+    const QByteArray startup_id = LaunchFeedback::take_from_environment();
+
     const bool unity = qEnvironmentVariable("XDG_CURRENT_DESKTOP").toLower() == QLatin1String("unity");
     const bool own_loop = !unity && !qEnvironmentVariableIsSet("QT_NO_GLIB");
     if (own_loop)
         qputenv("QT_NO_GLIB", "1");
-    SingleApplication app(argc, argv);
+    SingleApplication app(argc, argv, startup_id);
     if (own_loop)
         qunsetenv("QT_NO_GLIB");
     MainWindow window(nullptr);
     app.setMainWindow(&window);
-    if (argc > 1) {
-        for (int i = 0; i < argc; ++i) {
+    // This launch's feedback ends here; the window it opens at start comes
+    // forward as the launcher's click asked.
+    {
+        UserTime::Scope launch(startup_id.isEmpty() ? 0 : LaunchFeedback::end_launch(startup_id));
+        for (int i = 1; i < argc; ++i) {
             if (qstrcmp(argv[i], "--show_ui") == 0)
                 window.set_open_ovra_after_load_finished(true);
             // Its own line when the port is busy; the program and its own
@@ -51,7 +60,8 @@ int main(int argc, char** argv)
                 window.offer_settings_to_browsers(12311);
         }
     }
-    QObject::connect(&app, SIGNAL(process_arguments()), &window, SLOT(process_api_command()));
+    QObject::connect(&app, &SingleApplication::process_arguments, &window,
+                     &MainWindow::process_launch);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     return app.exec();
 }

@@ -137,11 +137,17 @@ void HostWindow::show_in(ShowState state, quint32 user_time)
     const bool wants_focus = state != ShowState::Hidden && state != ShowState::Minimized
                              && !m_policy.no_focus;
     // The window manager judges a new window by its user time when it maps
-    // it. Qt writes its own last event time there as well; the activation
-    // request below carries the user's time either way.
-    if (!was_visible && wants_focus && user_time)
+    // it. Qt, at the show, writes its own last event time on a user time
+    // window of its making, which the manager reads instead: the user's time
+    // goes there again right behind the map request, in the same stream, so
+    // that a manager that reads it on the map request reads ours. The
+    // activation request below carries it either way.
+    const bool mark = !was_visible && wants_focus && user_time;
+    if (mark)
         X11Window::set_user_time(xid(), user_time);
     apply_state(state);
+    if (mark)
+        X11Window::set_user_time(xid(), user_time);
     if (wants_focus)
         activate_when_mapped(user_time);
 }
