@@ -46,7 +46,6 @@ public:
 
     // The host reports, routed here by PageWindows.
     virtual void page_loaded(bool ok);
-    virtual void page_mapped() {}
     virtual void page_close_requested() {}
     virtual void page_escape_pressed() {}
     virtual void page_state_changed(ShowState state);

@@ -48,10 +48,6 @@ void PageWindows::connect_host()
         if (OvraWindow* w = registry.value(id))
             w->page_loaded(ok);
     });
-    connect(web_host, &WebHost::mapped, this, [this](const QString& id, quint32) {
-        if (OvraWindow* w = registry.value(id))
-            w->page_mapped();
-    });
     connect(web_host, &WebHost::close_requested, this, [this](const QString& id) {
         if (OvraWindow* w = registry.value(id))
             w->page_close_requested();

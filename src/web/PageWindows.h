@@ -34,7 +34,6 @@ public:
     // with its own token: only the settings window's object, never a rest
     // screen's. False, with one line on standard error, when the port is taken.
     bool offer_to_browsers(quint16 port);
-    BridgeServer* browser_bridge() const { return browsers; }
 
     // The name of the settings window: one page at a time, wherever it is.
     static const QString SETTINGS_WINDOW;

@@ -30,24 +30,6 @@ QJsonArray size_array(const QSize& s)
     return {s.width(), s.height()};
 }
 
-QJsonObject flags_object(const WindowOptions& options)
-{
-    const std::pair<const char*, bool> flags[] = {
-        {"frameless", options.frameless},       {"stays_on_top", options.stays_on_top},
-        {"tool", options.tool},                 {"tooltip", options.tooltip},
-        {"translucent", options.translucent},   {"refuse_close", options.refuse_close},
-        {"swallow_keys", options.swallow_keys}, {"grab_keyboard", options.grab_keyboard},
-        {"keep_raised", options.keep_raised},   {"click_through", options.click_through},
-        {"no_focus", options.no_focus},         {"start_offscreen", options.start_offscreen},
-    };
-    QJsonObject result;
-    for (const auto& flag : flags) {
-        if (flag.second)
-            result.insert(QLatin1String(flag.first), true);
-    }
-    return result;
-}
-
 } // namespace
 
 WebHost::WebHost(QObject* parent)
@@ -187,7 +169,7 @@ bool WebHost::open(const QString& id, const QUrl& url, const WindowOptions& opti
                         {"id", id},
                         {"url", url.toString(QUrl::FullyEncoded)},
                         {"title", options.title},
-                        {"flags", flags_object(options)},
+                        {"flags", options.to_json()},
                         {"state", host_states::name_of(state)}};
     if (!options.rect.isNull())
         command.insert(QStringLiteral("rect"), rect_array(options.rect));
@@ -245,7 +227,7 @@ bool WebHost::set_geometry(const QString& id, const QRect& rect)
 
 bool WebHost::set_policy(const QString& id, const WindowOptions& options)
 {
-    return send_to(id, {{"cmd", "policy"}, {"flags", flags_object(options)}});
+    return send_to(id, {{"cmd", "policy"}, {"flags", options.to_json()}});
 }
 
 bool WebHost::evaluate(const QString& id, const QString& script)

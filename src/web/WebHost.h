@@ -9,28 +9,18 @@
 #include <QUrl>
 
 #include "web/HostStates.h"
+#include "web/WindowFlags.h"
 
 class QJsonObject;
 class QProcess;
 
 // How a page window looks and what the host enforces for it.
-struct WindowOptions
+// Where a page window opens and what it is kept to.
+struct WindowOptions : WindowFlags
 {
-    QRect rect;    // where on the screen; a null rect leaves placement to the WM
-    QSize size;    // used when rect is null
+    QRect rect; // where on the screen; a null rect leaves placement to the WM
+    QSize size; // used when rect is null
     QString title;
-    bool frameless = false;
-    bool stays_on_top = false;
-    bool tool = false;          // Qt::Tool
-    bool tooltip = false;       // Qt::ToolTip: override-redirect, outside the WM
-    bool translucent = false;   // takes effect at open only
-    bool refuse_close = false;  // close requests are dropped without a report
-    bool swallow_keys = false;  // no key reaches the page
-    bool grab_keyboard = false; // active X keyboard grab while shown
-    bool keep_raised = false;   // raised every 10 ms while shown
-    bool click_through = false; // input passes to what lies below
-    bool no_focus = false;      // never takes focus
-    bool start_offscreen = false; // off-screen until set_geometry()
 };
 
 
@@ -95,7 +85,6 @@ public:
     bool evaluate(const QString& id, const QString& script);
 
     bool has_window(const QString& id) const { return m_windows.contains(id); }
-    int window_count() const { return int(m_windows.size()); }
     bool is_running() const { return m_process != nullptr; }
     qint64 pid() const;
 
