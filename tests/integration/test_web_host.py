@@ -11,7 +11,7 @@ import tempfile
 import threading
 import unittest
 
-from harness import TOOLS_DIR, alive, descendants, wait_for
+from harness import ENGINE_ENV, TOOLS_DIR, alive, descendants, wait_for
 
 HOST = os.environ.get("OVRA_WEB_HOST", "")
 PAGE = b"""<html><body style="margin:0;background:#36c"><script>
@@ -55,8 +55,7 @@ class Host:
     """One ovra-web with its event lines gathered on a thread."""
 
     def __init__(self, display, parent=None):
-        env = dict(os.environ, DISPLAY=display, QTWEBENGINE_DISABLE_SANDBOX="1",
-                   QTWEBENGINE_CHROMIUM_FLAGS="--disable-gpu")
+        env = dict(os.environ, DISPLAY=display, **ENGINE_ENV)
         if parent:
             env["OVRA_WEB_PARENT"] = str(parent)
         self.stderr = tempfile.TemporaryFile(mode="w+")
@@ -286,8 +285,7 @@ class WebHostTest(unittest.TestCase):
              "os.environ['OVRA_WEB_PARENT']=str(os.getpid())\n"
              "subprocess.Popen([sys.argv[1]],stdin=int(sys.argv[2]));time.sleep(600)",
              HOST, str(commands)], pass_fds=(commands,), stdout=subprocess.PIPE, text=True,
-            env=dict(self.env, QTWEBENGINE_DISABLE_SANDBOX="1",
-                     QTWEBENGINE_CHROMIUM_FLAGS="--disable-gpu"))
+            env=dict(self.env, **ENGINE_ENV))
         os.close(commands)
         self.addCleanup(parent.stdout.close)
         self.addCleanup(parent.kill)

@@ -131,6 +131,17 @@ test("the brightness range starts at 5 when restored, at 10 when clicked", async
   await page.close();
 });
 
+test("the wider temperature range follows the blue light page's box too", async () => {
+  const { page } = await fresh_page();
+  const maximum = () => page.evaluate(() => $("#day-temperature-slider").slider("option", "max"));
+  assert.equal(await maximum(), 6500);
+  await page.evaluate(() => blue_light_extended_values.set_temperature_extended_values(true));
+  assert.equal(await maximum(), 10000);
+  await page.evaluate(() => blue_light_extended_values.set_temperature_extended_values(false));
+  assert.equal(await maximum(), 6500);
+  await page.close();
+});
+
 test("number boxes keep to their range and show their unit", async () => {
   const { page, reports } = await fresh_page();
   await show_page(page, "Timer");

@@ -16,3 +16,5 @@ forms.checkbox(exports, {
   setter: "set_temperature_extended_values",
   follow: show_temperature_range
 });
+
+exports.show_temperature_range = show_temperature_range;
