@@ -1,4 +1,5 @@
 #include "app/MainWindow.h"
+#include "breaks/IRestTimer.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -192,6 +193,9 @@ void MainWindow::second_tick()
     update_smart_brightness();
     update_smart_inversion();
     fix_gamma();
+    // The break timer's second is this one: an idle program wakes once.
+    if (rest_timer)
+        rest_timer->update();
 }
 
 void MainWindow::setup_signal_handlers()

@@ -18,9 +18,6 @@ void MainWindow::create_new_rest_timer()
         return;
     auto* timer = new RestTimer(this);
     rest_timer = timer;
-    // The timer's second is the controller's: an idle program wakes once.
-    if (update_timer)
-        connect(update_timer, &QTimer::timeout, timer, &RestTimer::update);
     connect(this, &MainWindow::translate, timer, &RestTimer::translate);
     // The postpone length follows from the settings at the next reset.
     timer->reset_rest_timer(settings[WORK_TIME].toInt(), settings[REST_TIME].toInt(), 3);

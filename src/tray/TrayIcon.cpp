@@ -260,8 +260,12 @@ bool TrayIcon::is_visible() const
 // Asked every second; the tray hears of it only when the words change.
 void TrayIcon::set_tooltip(const QString& text)
 {
-    if (text != toolTip())
-        setToolTip(text);
+    // Compared with what was last set, not with toolTip(), which asks the
+    // platform's icon each second.
+    if (text == tooltip_shown)
+        return;
+    tooltip_shown = text;
+    setToolTip(text);
 }
 
 void TrayIcon::show_message(const QString& title, const QString& text)

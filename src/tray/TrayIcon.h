@@ -79,6 +79,7 @@ private:
     SettingRef spinning_setting;
     // Only the program itself spins; a renamed build stays still.
     bool may_spin = false;
+    QString tooltip_shown;
     QMenu* menu = nullptr;
     QMenu* mode_menu = nullptr;
     std::array<QMenu*, 3> pauser_menus{};
