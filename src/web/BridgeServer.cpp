@@ -55,9 +55,8 @@ bool BridgeServer::listen(quint16 requested_port)
     gate = std::make_unique<BridgeGate>(bound_port, secret);
     http = new BridgeHttpServer(*gate, *files, [this](const QString& window) { return resolve(window) != nullptr; },
                                 this);
-    http->bind(tcp);
-    tcp->setParent(http);
-    connect(http, &QAbstractHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
+    http->serve(tcp);
+    connect(http, &BridgeHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
     return true;
 }
 
