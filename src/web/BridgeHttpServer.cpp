@@ -103,13 +103,13 @@ void BridgeHttpServer::take_connections()
             connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
             send_refusal(socket, 503, true);
             // Gone for good even if the client never reads its answer.
-            QTimer::singleShot(REQUEST_TIMEOUT_MS, socket, [socket] { socket->abort(); socket->deleteLater(); });
+            QTimer::singleShot(request_timeout_ms, socket, [socket] { socket->abort(); socket->deleteLater(); });
             continue;
         }
         socket->setReadBufferSize(READ_BUFFER_BYTES);
         auto* deadline = new QTimer(socket);
         deadline->setSingleShot(true);
-        deadline->setInterval(REQUEST_TIMEOUT_MS);
+        deadline->setInterval(request_timeout_ms);
         connect(deadline, &QTimer::timeout, this, [this, socket] { deadline_passed(socket); });
         deadline->start();
         connections.insert(socket, deadline);
@@ -124,7 +124,8 @@ void BridgeHttpServer::read_requests(QTcpSocket* socket)
 {
     // Requests may come pipelined; each is answered in turn. The head is read
     // inside a transaction and put back, so that an admitted upgrade reaches
-    // the WebSocket server untouched; an answered one is skipped after.
+    // the WebSocket server untouched; any other is skipped before its answer,
+    // which may bring this back here for the next one.
     while (connections.contains(socket) && socket->state() == QAbstractSocket::ConnectedState
            && socket->bytesAvailable() > 0 && socket->bytesToWrite() < MAX_UNSENT_BYTES) {
         socket->startTransaction();
@@ -138,13 +139,12 @@ void BridgeHttpServer::read_requests(QTcpSocket* socket)
             send_refusal(socket, result.status, true);
             return;
         }
-        if (!answer_request(socket, result.head))
+        if (!answer_request(socket, result.head, result.consumed))
             return;
-        socket->skip(result.consumed);
     }
 }
 
-bool BridgeHttpServer::answer_request(QTcpSocket* socket, const HttpRequestHead& head)
+bool BridgeHttpServer::answer_request(QTcpSocket* socket, const HttpRequestHead& head, qsizetype head_bytes)
 {
     const BridgeRequest facts = describe(head);
     BridgeVerdict verdict = gate.admit(facts);
@@ -162,11 +162,12 @@ bool BridgeHttpServer::answer_request(QTcpSocket* socket, const HttpRequestHead&
         verdict.reason = QStringLiteral("a request with a body");
     }
 
+    if (facts.upgrade && verdict.kind == BridgeVerdict::Kind::Channel) {
+        hand_over(socket);
+        return false;
+    }
+    socket->skip(head_bytes);
     if (facts.upgrade) {
-        if (verdict.kind == BridgeVerdict::Kind::Channel) {
-            hand_over(socket);
-            return false;
-        }
         if (verdict.kind != BridgeVerdict::Kind::Refuse) {
             verdict.status = 404;
             verdict.reason = QStringLiteral("WebSocket on a path that is no channel");
@@ -179,7 +180,8 @@ bool BridgeHttpServer::answer_request(QTcpSocket* socket, const HttpRequestHead&
     answer_verdict(socket, verdict, facts, close);
     if (close)
         return false;
-    connections.value(socket)->start();
+    if (QTimer* deadline = connections.value(socket))
+        deadline->start();
     return true;
 }
 

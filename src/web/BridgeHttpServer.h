@@ -40,6 +40,8 @@ public:
 
     // Takes over a listening server and answers its connections.
     void serve(QTcpServer* server);
+    // For connections opened from now on.
+    void set_request_timeout(int ms) { request_timeout_ms = ms; }
 
     bool hasPendingWebSocketConnections() const;
     std::unique_ptr<QWebSocket> nextPendingWebSocketConnection();
@@ -57,7 +59,7 @@ private:
     void take_connections();
     void read_requests(QTcpSocket* socket);
     // False once the socket is closing or no longer this server's.
-    bool answer_request(QTcpSocket* socket, const HttpRequestHead& head);
+    bool answer_request(QTcpSocket* socket, const HttpRequestHead& head, qsizetype head_bytes);
     void answer_verdict(QTcpSocket* socket, const BridgeVerdict& verdict, const BridgeRequest& facts, bool close);
     void hand_over(QTcpSocket* socket);
     void send(QTcpSocket* socket, int status, const QByteArray& type, const QByteArray& body,
@@ -69,6 +71,7 @@ private:
     const BridgeGate& gate;
     const PageFiles& files;
     WindowCheck window_exists;
+    int request_timeout_ms = REQUEST_TIMEOUT_MS;
     QTcpServer* tcp = nullptr;
     QWebSocketServer* sockets = nullptr;
     // Each open connection and the deadline of its next request.

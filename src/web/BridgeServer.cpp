@@ -24,6 +24,7 @@ BridgeServer::BridgeServer(QObject* parent, const QString& page_root)
     : QObject(parent)
     , secret(BridgeToken::generate())
     , files(std::make_unique<PageFiles>(page_root))
+    , request_timeout_ms(BridgeHttpServer::REQUEST_TIMEOUT_MS)
 {
 }
 
@@ -55,6 +56,7 @@ bool BridgeServer::listen(quint16 requested_port)
     gate = std::make_unique<BridgeGate>(bound_port, secret);
     http = new BridgeHttpServer(*gate, *files, [this](const QString& window) { return resolve(window) != nullptr; },
                                 this);
+    http->set_request_timeout(request_timeout_ms);
     http->serve(tcp);
     connect(http, &BridgeHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
     return true;
@@ -63,6 +65,13 @@ bool BridgeServer::listen(quint16 requested_port)
 void BridgeServer::set_window_resolver(WindowResolver window_resolver)
 {
     resolver = std::move(window_resolver);
+}
+
+void BridgeServer::set_request_timeout(int ms)
+{
+    request_timeout_ms = ms;
+    if (http)
+        http->set_request_timeout(ms);
 }
 
 void BridgeServer::set_single_window(const QString& window, bool single)

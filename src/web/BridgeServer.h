@@ -43,6 +43,8 @@ public:
     const QString& token() const { return secret; }
 
     void set_window_resolver(WindowResolver resolver);
+    // How long a connection may take to send a whole request head.
+    void set_request_timeout(int ms);
     void set_single_window(const QString& window, bool single = true);
     bool is_single_window(const QString& window) const { return single_windows.contains(window); }
     int client_count(const QString& window) const;
@@ -75,6 +77,7 @@ private:
     std::unique_ptr<PageFiles> files;
     std::unique_ptr<BridgeGate> gate;
     BridgeHttpServer* http = nullptr;
+    int request_timeout_ms;
     WindowResolver resolver;
     QSet<QString> single_windows;
     QList<BridgeClient*> clients;
