@@ -1,13 +1,12 @@
 #include "web/BridgeHttpServer.h"
 
+#include "web/BridgeSocket.h"
 #include "web/HttpRequestHead.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <QUrlQuery>
-#include <QWebSocket>
-#include <QWebSocketServer>
 #include <cstdio>
 
 namespace {
@@ -44,9 +43,7 @@ BridgeHttpServer::BridgeHttpServer(const BridgeGate& gate, const PageFiles& file
     , gate(gate)
     , files(files)
     , window_exists(std::move(window_exists))
-    , sockets(new QWebSocketServer(QStringLiteral("Ovra"), QWebSocketServer::NonSecureMode, this))
 {
-    connect(sockets, &QWebSocketServer::newConnection, this, &BridgeHttpServer::newWebSocketConnection);
 }
 
 BridgeHttpServer::~BridgeHttpServer()
@@ -66,12 +63,16 @@ void BridgeHttpServer::serve(QTcpServer* server)
 
 bool BridgeHttpServer::hasPendingWebSocketConnections() const
 {
-    return sockets->hasPendingConnections();
+    return !upgraded.isEmpty();
 }
 
-std::unique_ptr<QWebSocket> BridgeHttpServer::nextPendingWebSocketConnection()
+std::unique_ptr<BridgeSocket> BridgeHttpServer::nextPendingWebSocketConnection()
 {
-    return std::unique_ptr<QWebSocket>(sockets->nextPendingConnection());
+    if (upgraded.isEmpty())
+        return nullptr;
+    BridgeSocket* socket = upgraded.takeFirst();
+    socket->setParent(nullptr);
+    return std::unique_ptr<BridgeSocket>(socket);
 }
 
 BridgeRequest BridgeHttpServer::describe(const HttpRequestHead& head)
@@ -123,9 +124,8 @@ void BridgeHttpServer::take_connections()
 void BridgeHttpServer::read_requests(QTcpSocket* socket)
 {
     // Requests may come pipelined; each is answered in turn. The head is read
-    // inside a transaction and put back, so that an admitted upgrade reaches
-    // the WebSocket server untouched; any other is skipped before its answer,
-    // which may bring this back here for the next one.
+    // inside a transaction and put back, and skipped only once answered:
+    // an answer may bring this back here for the next one.
     while (connections.contains(socket) && socket->state() == QAbstractSocket::ConnectedState
            && socket->bytesAvailable() > 0 && socket->bytesToWrite() < MAX_UNSENT_BYTES) {
         socket->startTransaction();
@@ -163,7 +163,7 @@ bool BridgeHttpServer::answer_request(QTcpSocket* socket, const HttpRequestHead&
     }
 
     if (facts.upgrade && verdict.kind == BridgeVerdict::Kind::Channel) {
-        hand_over(socket);
+        upgrade(socket, head, head_bytes, facts);
         return false;
     }
     socket->skip(head_bytes);
@@ -220,15 +220,23 @@ void BridgeHttpServer::answer_verdict(QTcpSocket* socket, const BridgeVerdict& v
     send_refusal(socket, verdict.status, close);
 }
 
-void BridgeHttpServer::hand_over(QTcpSocket* socket)
+void BridgeHttpServer::upgrade(QTcpSocket* socket, const HttpRequestHead& head, qsizetype head_bytes,
+                               const BridgeRequest& facts)
 {
-    // From here on the WebSocket server owns the socket; it reads the
-    // request that the transaction above left in place.
+    socket->skip(head_bytes);
+    const QByteArray reply = BridgeSocket::handshake_reply(head);
+    if (reply.isEmpty()) {
+        report_refusal(gate.port(), QStringLiteral("a WebSocket"), QStringLiteral("malformed handshake"));
+        send_refusal(socket, 400, true);
+        return;
+    }
+    // From here on the connection is the WebSocket's.
     socket->disconnect(this);
     delete connections.take(socket);
     socket->setReadBufferSize(0);
-    socket->setParent(sockets);
-    sockets->handleConnection(socket);
+    socket->write(reply);
+    upgraded.append(new BridgeSocket(socket, facts, this));
+    emit newWebSocketConnection();
 }
 
 void BridgeHttpServer::send(QTcpSocket* socket, int status, const QByteArray& type, const QByteArray& body,

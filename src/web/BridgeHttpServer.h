@@ -4,16 +4,16 @@
 #include "web/PageFiles.h"
 
 #include <QHash>
+#include <QList>
 #include <QObject>
 #include <functional>
 #include <memory>
 
 struct HttpRequestHead;
+class BridgeSocket;
 class QTcpServer;
 class QTcpSocket;
 class QTimer;
-class QWebSocket;
-class QWebSocketServer;
 
 // The HTTP side of a bridge server: a small HTTP/1.1 server for bodiless GET
 // requests on loopback that answers page requests after the gate's checks,
@@ -44,7 +44,7 @@ public:
     void set_request_timeout(int ms) { request_timeout_ms = ms; }
 
     bool hasPendingWebSocketConnections() const;
-    std::unique_ptr<QWebSocket> nextPendingWebSocketConnection();
+    std::unique_ptr<BridgeSocket> nextPendingWebSocketConnection();
 
     // What the gate needs to know of a request.
     static BridgeRequest describe(const HttpRequestHead& head);
@@ -61,7 +61,7 @@ private:
     // False once the socket is closing or no longer this server's.
     bool answer_request(QTcpSocket* socket, const HttpRequestHead& head, qsizetype head_bytes);
     void answer_verdict(QTcpSocket* socket, const BridgeVerdict& verdict, const BridgeRequest& facts, bool close);
-    void hand_over(QTcpSocket* socket);
+    void upgrade(QTcpSocket* socket, const HttpRequestHead& head, qsizetype head_bytes, const BridgeRequest& facts);
     void send(QTcpSocket* socket, int status, const QByteArray& type, const QByteArray& body,
               const QByteArray& location, bool close);
     void send_refusal(QTcpSocket* socket, int status, bool close);
@@ -73,7 +73,7 @@ private:
     WindowCheck window_exists;
     int request_timeout_ms = REQUEST_TIMEOUT_MS;
     QTcpServer* tcp = nullptr;
-    QWebSocketServer* sockets = nullptr;
+    QList<BridgeSocket*> upgraded;
     // Each open connection and the deadline of its next request.
     QHash<QTcpSocket*, QTimer*> connections;
 };

@@ -10,8 +10,8 @@
 class BridgeClient;
 class BridgeGate;
 class BridgeHttpServer;
+class BridgeSocket;
 class PageFiles;
-class QWebSocket;
 
 // Serves the pages on 127.0.0.1 and lets each page reach its window's native
 // object through a web channel over a WebSocket. Every address carries this
@@ -68,7 +68,7 @@ signals:
 
 private:
     void take_sockets();
-    void accept(std::unique_ptr<QWebSocket> socket);
+    void accept(std::unique_ptr<BridgeSocket> socket);
     void client_gone(BridgeClient* client);
     QObject* resolve(const QString& window) const;
 

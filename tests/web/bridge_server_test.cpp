@@ -80,15 +80,22 @@ Reply raw_request(QTcpSocket* socket, quint16 port, const QByteArray& request)
     return reply;
 }
 
+// A frame as a page sends it: masked unless told, 16-bit length.
+QByteArray client_frame(quint8 first, const QByteArray& payload, bool masked = true)
+{
+    QByteArray frame(1, char(first));
+    frame.append(char((masked ? 0x80 : 0) | 126)).append(char(payload.size() >> 8)).append(char(payload.size() & 0xff));
+    const char key[4] = {0x11, 0x22, 0x33, 0x44};
+    if (masked)
+        frame.append(key, 4);
+    for (int i = 0; i < payload.size(); ++i)
+        frame.append(char(payload[i] ^ (masked ? key[i % 4] : 0)));
+    return frame;
+}
+
 QByteArray masked_text_frame(const QByteArray& payload)
 {
-    QByteArray frame(1, char(0x81));
-    frame.append(char(0x80 | 126)).append(char(payload.size() >> 8)).append(char(payload.size() & 0xff));
-    const char key[4] = {0x11, 0x22, 0x33, 0x44};
-    frame.append(key, 4);
-    for (int i = 0; i < payload.size(); ++i)
-        frame.append(char(payload[i] ^ key[i % 4]));
-    return frame;
+    return client_frame(0x81, payload);
 }
 
 // A page's end of a channel: a real QWebSocket with the Origin a page has.
@@ -362,6 +369,37 @@ TEST_F(BridgeServerTest, ACrowdOfConnectionsIsCappedAndTheServerStaysUp)
     wait_until([] { return false; }, 200); // the server sees them go
     QTcpSocket next;
     EXPECT_EQ(request(&next, "GET /{T}/js/app.js", "").status, 200);
+}
+
+// The server's end of a socket, fed frames no page sends: it answers a
+// ping, and closes with the code that names the fault.
+TEST_F(BridgeServerTest, SocketAnswersPingAndClosesOnBadFrames)
+{
+    const QByteArray upgrade = "Upgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
+                               "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\nOrigin: http://127.0.0.1:{P}\r\n";
+    struct Case { const char* what; QByteArray frame, answer; };
+    const Case cases[] = {
+        {"ping", client_frame(0x89, "hi"), "\x8a\x02hi"},
+        {"close", client_frame(0x88, "\x03\xe8"), "\x88\x02\x03\xe8"},
+        {"unmasked", client_frame(0x81, "x", false), "\x88\x02\x03\xea"},
+        {"binary", client_frame(0x82, "x"), "\x88\x02\x03\xeb"},
+        {"not UTF-8", client_frame(0x81, "\xff"), "\x88\x02\x03\xef"},
+        {"fragmented ping", client_frame(0x09, "x"), "\x88\x02\x03\xea"},
+        {"stray continuation", client_frame(0x80, "x"), "\x88\x02\x03\xea"},
+        {"huge", QByteArray("\x81\xff\x00\x00\x01\x00\x00\x00\x00\x00\x11\x22\x33\x44", 14), "\x88\x02\x03\xf1"},
+    };
+    for (const Case& c : cases) {
+        QTcpSocket socket;
+        ASSERT_EQ(request(&socket, "GET /{T}/channel/main", "", upgrade).status, 101) << c.what;
+        socket.write(c.frame);
+        QByteArray got;
+        EXPECT_TRUE(wait_until([&] { return (got += socket.readAll()).size() >= c.answer.size(); })) << c.what;
+        EXPECT_EQ(got, c.answer) << c.what;
+        if (c.answer.startsWith('\x88')) {
+            EXPECT_TRUE(wait_until([&] { return socket.state() == QAbstractSocket::UnconnectedState; }, 2000)) << c.what;
+        }
+    }
+    EXPECT_EQ(window.calls, 0);
 }
 
 TEST_F(BridgeServerTest, BusyPortAndSecondListenReportFalse)
