@@ -4,7 +4,7 @@
 set -e
 packages="build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
-  qt6-httpserver-dev qt6-websockets-dev qt6-webchannel-dev qt6-webengine-dev
+  qt6-websockets-dev qt6-webchannel-dev qt6-webengine-dev
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev qt6-multimedia-dev
   libxcb1-dev libxcb-randr0-dev libxss-dev libx11-dev
   nodejs chromium

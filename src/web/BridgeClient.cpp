@@ -1,32 +1,28 @@
 #include "web/BridgeClient.h"
 
+#include "web/BridgeSocket.h"
 #include "web/PageCallLog.h"
 #include "web/WebSocketTransport.h"
 
 #include <QJsonObject>
 #include <QTimer>
 #include <QWebChannel>
-#include <QWebSocket>
 
 namespace {
 
-// A page's messages are settings and short commands; anything near this
-// size is no page of ours.
-const qint64 MAX_MESSAGE_BYTES = 16 * 1024 * 1024;
 // A peer that does not answer a close in this time is cut off.
 const int CLOSE_GRACE_MS = 3000;
+const int GOING_AWAY_CODE = 1001;
 
 } // namespace
 
-BridgeClient::BridgeClient(std::unique_ptr<QWebSocket> owned_socket, const QString& window,
+BridgeClient::BridgeClient(std::unique_ptr<BridgeSocket> owned_socket, const QString& window,
                            QObject* native_object, QObject* parent)
     : QObject(parent)
     , window_name(window)
     , socket(owned_socket.release())
 {
     socket->setParent(this);
-    socket->setMaxAllowedIncomingMessageSize(MAX_MESSAGE_BYTES);
-    socket->setMaxAllowedIncomingFrameSize(MAX_MESSAGE_BYTES);
     transport = new WebSocketTransport(socket, this);
     if (page_calls().isDebugEnabled()) {
         const QMetaObject* meta = native_object->metaObject();
@@ -37,16 +33,16 @@ BridgeClient::BridgeClient(std::unique_ptr<QWebSocket> owned_socket, const QStri
     channel->registerObject(QStringLiteral("native_object"), native_object);
     channel->connectTo(transport);
 
-    connect(socket, &QWebSocket::disconnected, this, [this] { emit gone(this); });
+    connect(socket, &BridgeSocket::disconnected, this, [this] { emit gone(this); });
     connect(native_object, &QObject::destroyed, this,
-            [this] { close(QWebSocketProtocol::CloseCodeGoingAway, QStringLiteral("window closed")); });
+            [this] { close(GOING_AWAY_CODE, QStringLiteral("window closed")); });
 }
 
 void BridgeClient::close(int code, const QString& reason)
 {
     channel->disconnectFrom(transport);
-    if (socket->state() == QAbstractSocket::UnconnectedState)
+    if (!socket->is_open())
         return;
-    socket->close(static_cast<QWebSocketProtocol::CloseCode>(code), reason);
-    QTimer::singleShot(CLOSE_GRACE_MS, socket, &QWebSocket::abort);
+    socket->close(code, reason);
+    QTimer::singleShot(CLOSE_GRACE_MS, socket, &BridgeSocket::abort);
 }

@@ -4,8 +4,8 @@
 #include <QString>
 #include <memory>
 
+class BridgeSocket;
 class QWebChannel;
-class QWebSocket;
 class WebSocketTransport;
 
 // One page's connection: its socket, the transport over it, and a web channel
@@ -16,7 +16,7 @@ class BridgeClient : public QObject
     Q_OBJECT
 
 public:
-    BridgeClient(std::unique_ptr<QWebSocket> socket, const QString& window, QObject* native_object,
+    BridgeClient(std::unique_ptr<BridgeSocket> socket, const QString& window, QObject* native_object,
                  QObject* parent = nullptr);
 
     const QString& window() const { return window_name; }
@@ -31,7 +31,7 @@ signals:
 
 private:
     QString window_name;
-    QWebSocket* socket = nullptr;
+    BridgeSocket* socket = nullptr;
     WebSocketTransport* transport = nullptr;
     QWebChannel* channel = nullptr;
 };

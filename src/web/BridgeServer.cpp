@@ -3,13 +3,13 @@
 #include "web/BridgeClient.h"
 #include "web/BridgeGate.h"
 #include "web/BridgeHttpServer.h"
+#include "web/BridgeSocket.h"
 #include "web/BridgeToken.h"
 #include "web/PageFiles.h"
 
 #include <QTcpServer>
 #include <QTimer>
 #include <QUrl>
-#include <QWebSocket>
 #include <cstdio>
 
 const char* const BridgeServer::TAKEN_OVER_REASON = "opened elsewhere";
@@ -17,6 +17,7 @@ const char* const BridgeServer::TAKEN_OVER_REASON = "opened elsewhere";
 namespace {
 
 const int REFUSED_CLOSE_GRACE_MS = 3000;
+const int POLICY_VIOLATED_CODE = 1008;
 
 } // namespace
 
@@ -24,6 +25,7 @@ BridgeServer::BridgeServer(QObject* parent, const QString& page_root)
     : QObject(parent)
     , secret(BridgeToken::generate())
     , files(std::make_unique<PageFiles>(page_root))
+    , request_timeout_ms(BridgeHttpServer::REQUEST_TIMEOUT_MS)
 {
 }
 
@@ -55,15 +57,22 @@ bool BridgeServer::listen(quint16 requested_port)
     gate = std::make_unique<BridgeGate>(bound_port, secret);
     http = new BridgeHttpServer(*gate, *files, [this](const QString& window) { return resolve(window) != nullptr; },
                                 this);
-    http->bind(tcp);
-    tcp->setParent(http);
-    connect(http, &QAbstractHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
+    http->set_request_timeout(request_timeout_ms);
+    http->serve(tcp);
+    connect(http, &BridgeHttpServer::newWebSocketConnection, this, &BridgeServer::take_sockets);
     return true;
 }
 
 void BridgeServer::set_window_resolver(WindowResolver window_resolver)
 {
     resolver = std::move(window_resolver);
+}
+
+void BridgeServer::set_request_timeout(int ms)
+{
+    request_timeout_ms = ms;
+    if (http)
+        http->set_request_timeout(ms);
 }
 
 void BridgeServer::set_single_window(const QString& window, bool single)
@@ -128,34 +137,27 @@ void BridgeServer::take_sockets()
         accept(http->nextPendingWebSocketConnection());
 }
 
-void BridgeServer::accept(std::unique_ptr<QWebSocket> socket)
+void BridgeServer::accept(std::unique_ptr<BridgeSocket> socket)
 {
     if (!socket)
         return;
     // The HTTP side has checked the upgrade already; the socket is checked
     // again as it stands, so that no road to an object skips the gate.
-    BridgeRequest facts;
-    facts.method = "GET";
-    facts.host = socket->request().rawHeader("Host");
-    facts.origin = socket->origin().toUtf8();
-    facts.has_origin = !facts.origin.isEmpty();
-    facts.path = socket->requestUrl().path(QUrl::FullyEncoded).toUtf8();
-    facts.upgrade = true;
-    const BridgeVerdict verdict = gate->admit(facts);
+    const BridgeVerdict verdict = gate->admit(socket->request());
     QObject* object = verdict.kind == BridgeVerdict::Kind::Channel ? resolve(verdict.window) : nullptr;
     if (!object) {
         BridgeHttpServer::report_refusal(bound_port, QStringLiteral("a WebSocket"),
                                          verdict.kind == BridgeVerdict::Kind::Refuse
                                              ? verdict.reason
                                              : QStringLiteral("no window \"%1\" here").arg(verdict.window));
-        QWebSocket* refused = socket.release();
+        BridgeSocket* refused = socket.release();
         refused->setParent(this);
-        connect(refused, &QWebSocket::disconnected, refused, &QObject::deleteLater);
+        connect(refused, &BridgeSocket::disconnected, refused, &QObject::deleteLater);
         QTimer::singleShot(REFUSED_CLOSE_GRACE_MS, refused, &QObject::deleteLater);
-        refused->close(QWebSocketProtocol::CloseCodePolicyViolated, QStringLiteral("refused"));
+        refused->close(POLICY_VIOLATED_CODE, QStringLiteral("refused"));
         return;
     }
-    if (socket->state() != QAbstractSocket::ConnectedState)
+    if (!socket->is_open())
         return;
 
     const QString window = verdict.window;

@@ -10,8 +10,8 @@
 class BridgeClient;
 class BridgeGate;
 class BridgeHttpServer;
+class BridgeSocket;
 class PageFiles;
-class QWebSocket;
 
 // Serves the pages on 127.0.0.1 and lets each page reach its window's native
 // object through a web channel over a WebSocket. Every address carries this
@@ -43,6 +43,8 @@ public:
     const QString& token() const { return secret; }
 
     void set_window_resolver(WindowResolver resolver);
+    // How long a connection may take to send a whole request head.
+    void set_request_timeout(int ms);
     void set_single_window(const QString& window, bool single = true);
     bool is_single_window(const QString& window) const { return single_windows.contains(window); }
     int client_count(const QString& window) const;
@@ -66,7 +68,7 @@ signals:
 
 private:
     void take_sockets();
-    void accept(std::unique_ptr<QWebSocket> socket);
+    void accept(std::unique_ptr<BridgeSocket> socket);
     void client_gone(BridgeClient* client);
     QObject* resolve(const QString& window) const;
 
@@ -75,6 +77,7 @@ private:
     std::unique_ptr<PageFiles> files;
     std::unique_ptr<BridgeGate> gate;
     BridgeHttpServer* http = nullptr;
+    int request_timeout_ms;
     WindowResolver resolver;
     QSet<QString> single_windows;
     QList<BridgeClient*> clients;

@@ -1,22 +1,23 @@
 #include "web/WebSocketTransport.h"
 
+#include "web/BridgeSocket.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QWebSocket>
 #include <cstdio>
 
-WebSocketTransport::WebSocketTransport(QWebSocket* socket, QObject* parent)
+WebSocketTransport::WebSocketTransport(BridgeSocket* socket, QObject* parent)
     : QWebChannelAbstractTransport(parent)
     , socket(socket)
 {
-    connect(socket, &QWebSocket::textMessageReceived, this, &WebSocketTransport::text_received);
+    connect(socket, &BridgeSocket::text_received, this, &WebSocketTransport::text_received);
 }
 
 void WebSocketTransport::sendMessage(const QJsonObject& message)
 {
-    if (!socket || socket->state() != QAbstractSocket::ConnectedState)
+    if (!socket || !socket->is_open())
         return;
-    socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
+    socket->send_text(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
 }
 
 void WebSocketTransport::text_received(const QString& text)

@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QWebChannelAbstractTransport>
 
-class QWebSocket;
+class BridgeSocket;
 
 // Carries a web channel's messages over one WebSocket, one JSON object per
 // text frame. The socket stays its owner's; a message for a socket that has
@@ -13,7 +13,7 @@ class WebSocketTransport : public QWebChannelAbstractTransport
     Q_OBJECT
 
 public:
-    explicit WebSocketTransport(QWebSocket* socket, QObject* parent = nullptr);
+    explicit WebSocketTransport(BridgeSocket* socket, QObject* parent = nullptr);
 
     void sendMessage(const QJsonObject& message) override;
 
@@ -21,5 +21,5 @@ private slots:
     void text_received(const QString& text);
 
 private:
-    QPointer<QWebSocket> socket;
+    QPointer<BridgeSocket> socket;
 };

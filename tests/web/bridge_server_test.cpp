@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "web/BridgeHttpServer.h"
 #include "web/BridgeServer.h"
 #include "web/BridgeToken.h"
 #include "web/BrowserBridgeNotice.h"
@@ -60,7 +61,8 @@ struct Reply
 // reply is read up to its Content-Length, or its head alone for an upgrade.
 Reply raw_request(QTcpSocket* socket, quint16 port, const QByteArray& request)
 {
-    socket->connectToHost(QHostAddress::LocalHost, port);
+    if (socket->state() == QAbstractSocket::UnconnectedState)
+        socket->connectToHost(QHostAddress::LocalHost, port);
     wait_until([&] { return socket->state() == QAbstractSocket::ConnectedState; });
     socket->write(request);
     QByteArray data;
@@ -78,15 +80,22 @@ Reply raw_request(QTcpSocket* socket, quint16 port, const QByteArray& request)
     return reply;
 }
 
+// A frame as a page sends it: masked unless told, 16-bit length.
+QByteArray client_frame(quint8 first, const QByteArray& payload, bool masked = true)
+{
+    QByteArray frame(1, char(first));
+    frame.append(char((masked ? 0x80 : 0) | 126)).append(char(payload.size() >> 8)).append(char(payload.size() & 0xff));
+    const char key[4] = {0x11, 0x22, 0x33, 0x44};
+    if (masked)
+        frame.append(key, 4);
+    for (int i = 0; i < payload.size(); ++i)
+        frame.append(char(payload[i] ^ (masked ? key[i % 4] : 0)));
+    return frame;
+}
+
 QByteArray masked_text_frame(const QByteArray& payload)
 {
-    QByteArray frame(1, char(0x81));
-    frame.append(char(0x80 | 126)).append(char(payload.size() >> 8)).append(char(payload.size() & 0xff));
-    const char key[4] = {0x11, 0x22, 0x33, 0x44};
-    frame.append(key, 4);
-    for (int i = 0; i < payload.size(); ++i)
-        frame.append(char(payload[i] ^ key[i % 4]));
-    return frame;
+    return client_frame(0x81, payload);
 }
 
 // A page's end of a channel: a real QWebSocket with the Origin a page has.
@@ -286,6 +295,111 @@ TEST_F(BridgeServerTest, SingleWindowIsTakenOverAcrossServers)
     Page rest_a(origin, server->channel_url("rest")), rest_b(origin, server->channel_url("rest"));
     ASSERT_TRUE(wait_until([&] { return server->client_count("rest") == 2; }));
     EXPECT_FALSE(rest_a.closed || rest_b.closed || third.closed);
+}
+
+// What no browser sends: each is answered with its status on a connection
+// that then closes, and the next client is served as before.
+TEST_F(BridgeServerTest, RawRequestsGetTheirStatusAndTheServerStaysUp)
+{
+    const QByteArray host = "Host: 127.0.0.1:{P}\r\n";
+    const QByteArray upgrade = "Upgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
+                               "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\nOrigin: http://127.0.0.1:{P}\r\n";
+    struct Case { const char* what; QByteArray bytes; int status; };
+    const Case cases[] = {
+        {"no request line", "GARBAGE\r\n\r\n", 400},
+        {"two spaces", "GET  /{T}/ HTTP/1.1\r\n" + host + "\r\n", 400},
+        {"absolute target", "GET http://127.0.0.1:{P}/{T}/ HTTP/1.1\r\n" + host + "\r\n", 400},
+        {"version", "GET /{T}/ HTTP/2.0\r\n" + host + "\r\n", 505},
+        {"no colon", "GET /{T}/ HTTP/1.1\r\n" + host + "Bad header\r\n\r\n", 400},
+        {"folded", "GET /{T}/ HTTP/1.1\r\n" + host + "X-A: 1\r\n  2\r\n\r\n", 400},
+        {"NUL", "GET /{T}/ HTTP/1.1\r\n" + host + QByteArray("X-A: \0\r\n\r\n", 10), 400},
+        {"two Hosts", "GET /{T}/ HTTP/1.1\r\n" + host + host + "\r\n", 400},
+        {"long line", "GET /" + QByteArray(20000, 'a') + " HTTP/1.1\r\n" + host + "\r\n", 400},
+        {"long head", "GET /{T}/ HTTP/1.1\r\n" + host + "X-A: " + QByteArray(20000, 'a') + "\r\n\r\n", 431},
+        {"body", "GET /{T}/js/app.js HTTP/1.1\r\n" + host + "Content-Length: 5\r\n\r\nhello", 400},
+        {"chunked", "GET /{T}/js/app.js HTTP/1.1\r\n" + host + "Transfer-Encoding: chunked\r\n\r\n0\r\n\r\n", 400},
+        {"upgrade without token", "GET /channel/main HTTP/1.1\r\n" + host + upgrade + "\r\n", 403},
+    };
+    for (const Case& c : cases) {
+        QTcpSocket socket, next;
+        const Reply reply = raw_request(&socket, server->port(), fill(c.bytes));
+        EXPECT_EQ(reply.head.left(12), "HTTP/1.1 " + QByteArray::number(c.status)) << c.what;
+        EXPECT_TRUE(wait_until([&] { return socket.state() == QAbstractSocket::UnconnectedState; }, 2000)) << c.what;
+        EXPECT_EQ(request(&next, "GET /{T}/js/app.js", "").status, 200) << "after " << c.what;
+    }
+}
+
+TEST_F(BridgeServerTest, KeepsAConnectionUntilCloseOrSilence)
+{
+    server->set_request_timeout(300);
+    const QByteArray get = fill("GET /{T}/js/app.js HTTP/1.1\r\nHost: 127.0.0.1:{P}\r\n");
+    QTcpSocket kept, closing, slow;
+    for (int i = 0; i < 2; ++i) {
+        const Reply reply = raw_request(&kept, server->port(), get + "\r\n");
+        EXPECT_EQ(reply.body, "var app;");
+        EXPECT_EQ(kept.state(), QAbstractSocket::ConnectedState);
+    }
+    EXPECT_EQ(raw_request(&closing, server->port(), get + "Connection: close\r\n\r\n").header("Connection"), "close");
+    slow.connectToHost(QHostAddress::LocalHost, server->port());
+    slow.write(get);
+    for (QTcpSocket* socket : {&kept, &closing, &slow})
+        EXPECT_TRUE(wait_until([&] { return socket->state() == QAbstractSocket::UnconnectedState; }, 3000));
+}
+
+TEST_F(BridgeServerTest, ACrowdOfConnectionsIsCappedAndTheServerStaysUp)
+{
+    const int extra = 20;
+    std::vector<std::unique_ptr<QTcpSocket>> crowd;
+    std::vector<QByteArray> got(BridgeHttpServer::MAX_CONNECTIONS + extra);
+    // In batches well below the listen backlog, so that none waits on the
+    // kernel's retries.
+    for (size_t i = 0; i < got.size(); ++i) {
+        crowd.push_back(std::make_unique<QTcpSocket>());
+        crowd.back()->connectToHost(QHostAddress::LocalHost, server->port());
+        if (crowd.size() % 20 == 0 || crowd.size() == got.size())
+            wait_until([&] { return crowd.back()->state() == QAbstractSocket::ConnectedState; });
+    }
+    EXPECT_TRUE(wait_until([&] {
+        int refused = 0;
+        for (size_t i = 0; i < got.size(); ++i)
+            refused += (got[i] += crowd[i]->readAll()).startsWith("HTTP/1.1 503");
+        return refused == extra;
+    }));
+    crowd.clear();
+    wait_until([] { return false; }, 200); // the server sees them go
+    QTcpSocket next;
+    EXPECT_EQ(request(&next, "GET /{T}/js/app.js", "").status, 200);
+}
+
+// The server's end of a socket, fed frames no page sends: it answers a
+// ping, and closes with the code that names the fault.
+TEST_F(BridgeServerTest, SocketAnswersPingAndClosesOnBadFrames)
+{
+    const QByteArray upgrade = "Upgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
+                               "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\nOrigin: http://127.0.0.1:{P}\r\n";
+    struct Case { const char* what; QByteArray frame, answer; };
+    const Case cases[] = {
+        {"ping", client_frame(0x89, "hi"), "\x8a\x02hi"},
+        {"close", client_frame(0x88, "\x03\xe8"), "\x88\x02\x03\xe8"},
+        {"unmasked", client_frame(0x81, "x", false), "\x88\x02\x03\xea"},
+        {"binary", client_frame(0x82, "x"), "\x88\x02\x03\xeb"},
+        {"not UTF-8", client_frame(0x81, "\xff"), "\x88\x02\x03\xef"},
+        {"fragmented ping", client_frame(0x09, "x"), "\x88\x02\x03\xea"},
+        {"stray continuation", client_frame(0x80, "x"), "\x88\x02\x03\xea"},
+        {"huge", QByteArray("\x81\xff\x00\x00\x01\x00\x00\x00\x00\x00\x11\x22\x33\x44", 14), "\x88\x02\x03\xf1"},
+    };
+    for (const Case& c : cases) {
+        QTcpSocket socket;
+        ASSERT_EQ(request(&socket, "GET /{T}/channel/main", "", upgrade).status, 101) << c.what;
+        socket.write(c.frame);
+        QByteArray got;
+        EXPECT_TRUE(wait_until([&] { return (got += socket.readAll()).size() >= c.answer.size(); })) << c.what;
+        EXPECT_EQ(got, c.answer) << c.what;
+        if (c.answer.startsWith('\x88')) {
+            EXPECT_TRUE(wait_until([&] { return socket.state() == QAbstractSocket::UnconnectedState; }, 2000)) << c.what;
+        }
+    }
+    EXPECT_EQ(window.calls, 0);
 }
 
 TEST_F(BridgeServerTest, BusyPortAndSecondListenReportFalse)
