@@ -33,11 +33,13 @@ class Program:
     """One program started in its own isolated environment; stop() ends it
     and removes its directories."""
 
-    def __init__(self, argv, config=None, extra_env=None):
+    def __init__(self, argv, config=None, extra_env=None, cpus=None):
         self.env, self.base = isolated_environment(config)
         self.env.update(extra_env or {})
+        # Set before exec, so that every thread the program starts keeps to it.
+        pin = (lambda: os.sched_setaffinity(0, cpus)) if cpus else None
         self.process = subprocess.Popen(argv, env=self.env, stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
+                                        stderr=subprocess.DEVNULL, preexec_fn=pin)
         self.pid = self.process.pid
 
     def running(self):

@@ -24,6 +24,9 @@ def arguments():
     parser.add_argument("--seconds", type=float, default=20.0, help="length of one round")
     parser.add_argument("--settle", type=float, default=3.0,
                         help="wait after each start, past start-up and the fade-in")
+    parser.add_argument("--cpu", type=int, default=None,
+                        help="keep both programs on this CPU: here a wake-up that moves between "
+                             "CPUs costs more than the work it does, and which one moves is luck")
     return parser.parse_args()
 
 
@@ -60,7 +63,7 @@ def measure(ovra, floor, rounds, seconds):
     return results
 
 
-def summarise(results, seconds):
+def summarise(results, seconds, pinned_cpu):
     if not results:
         return
     median = benchkit.median
@@ -75,8 +78,9 @@ def summarise(results, seconds):
         print("median %-9s %10.2f %10.2f %7.2fx %9d %9d %7.2fx"
               % (scope, ovra_ms, floor_ms, cpu_ratio, ovra_wake, floor_wake, wake_ratio))
     print("(ratios are medians of the per-round ratios; target <= %.2fx; "
-          "%d rounds of %.0f s; ovra %d threads, floor %d)"
-          % (TARGET_RATIO, len(results), seconds, results[-1][0].threads, results[-1][1].threads))
+          "%d rounds of %.0f s; ovra %d threads, floor %d; %s)"
+          % (TARGET_RATIO, len(results), seconds, results[-1][0].threads, results[-1][1].threads,
+             "both kept on CPU %d" % pinned_cpu if pinned_cpu is not None else "free to move between CPUs"))
 
 
 def main():
@@ -91,17 +95,18 @@ def main():
             print("idle_bench: %s is not built" % binary)
             return
     # ovra first, so that the floor takes the ramps ovra keeps on the screen.
-    ovra = benchkit.Program([ovra_binary])
+    cpus = {args.cpu} if args.cpu is not None else None
+    ovra = benchkit.Program([ovra_binary], cpus=cpus)
     floor = None
     try:
         time.sleep(args.settle)
-        floor = benchkit.Program([floor_binary])
+        floor = benchkit.Program([floor_binary], cpus=cpus)
         time.sleep(args.settle)
         if not (ovra.running() and floor.running()):
             print("idle_bench: ovra or the floor did not keep running")
             return
         results = measure(ovra, floor, args.rounds, args.seconds)
-        summarise(results, args.seconds)
+        summarise(results, args.seconds, args.cpu)
         rss, pss = benchkit.memory_kib(ovra.pid)
         floor_rss, floor_pss = benchkit.memory_kib(floor.pid)
         print("ovra_idle_memory  rss %.1f MiB  pss %.1f MiB   (floor: rss %.1f MiB  pss %.1f MiB; "

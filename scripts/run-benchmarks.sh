@@ -11,6 +11,10 @@ for s in bench/*_bench.sh bench/*_bench.py; do
   [ -f "$s" ] || continue
   echo "== $(basename "$s")"
   case "$s" in
+    *idle_bench.py)
+      ./tests/tools/isolated /usr/bin/python3 "$s" "$build"
+      echo "== $(basename "$s") --cpu 0"
+      ./tests/tools/isolated /usr/bin/python3 "$s" "$build" --cpu 0 ;;
     *.py) ./tests/tools/isolated /usr/bin/python3 "$s" "$build" ;;
     *) sh "$s" "$build" ;;
   esac

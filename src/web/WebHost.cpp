@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStringList>
 #include <QTimer>
 #include <cerrno>
 #include <cstdio>
@@ -61,6 +62,20 @@ qint64 WebHost::pid() const
     return m_process ? m_process->processId() : 0;
 }
 
+namespace {
+QStringList& kept_from_host()
+{
+    static QStringList names;
+    return names;
+}
+} // namespace
+
+void WebHost::keep_from_host(const QString& name)
+{
+    if (!kept_from_host().contains(name))
+        kept_from_host().append(name);
+}
+
 bool WebHost::start()
 {
     const QString path = host_path();
@@ -73,6 +88,8 @@ bool WebHost::start()
     process->setProgram(path);
     process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : std::as_const(kept_from_host()))
+        env.remove(name);
     env.insert(QStringLiteral("OVRA_WEB_PARENT"), QString::number(qint64(getpid())));
     process->setProcessEnvironment(env);
     // On a busy machine the engine's start fills every core for a second;

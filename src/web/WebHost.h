@@ -89,6 +89,8 @@ public:
     qint64 pid() const;
 
     static QString host_path();
+    // A variable this program set for itself only: the host starts without it.
+    static void keep_from_host(const QString& name);
 
 signals:
     void loaded(const QString& id, bool ok);
