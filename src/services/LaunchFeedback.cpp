@@ -6,6 +6,8 @@
 #include <cstring>
 #include <xcb/xcb.h>
 
+#include "base/XcbAtom.h"
+
 namespace LaunchFeedback {
 namespace {
 
@@ -13,15 +15,6 @@ const char ENVIRONMENT_NAME[] = "DESKTOP_STARTUP_ID";
 const char TIME_MARK[] = "_TIME";
 // The protocol carries a message in pieces of a client message's data.
 const int PIECE = 20;
-
-xcb_atom_t atom(xcb_connection_t* c, const char* name)
-{
-    xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(
-        c, xcb_intern_atom(c, 0, uint16_t(strlen(name)), name), nullptr);
-    const xcb_atom_t result = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-    free(reply);
-    return result;
-}
 
 // The server's time now: the stamp of a property change on our own window.
 quint32 server_time(xcb_connection_t* c, xcb_window_t window, xcb_atom_t property)
@@ -44,8 +37,8 @@ quint32 server_time(xcb_connection_t* c, xcb_window_t window, xcb_atom_t propert
 void send_message(xcb_connection_t* c, xcb_window_t root, xcb_window_t window,
                   const QByteArray& message)
 {
-    const xcb_atom_t begin = atom(c, "_NET_STARTUP_INFO_BEGIN");
-    const xcb_atom_t more = atom(c, "_NET_STARTUP_INFO");
+    const xcb_atom_t begin = xcb_atom(c, "_NET_STARTUP_INFO_BEGIN");
+    const xcb_atom_t more = xcb_atom(c, "_NET_STARTUP_INFO");
     // The terminating zero tells the receiver that the message is whole.
     const QByteArray text = message + '\0';
     for (int at = 0; at < text.size(); at += PIECE) {
@@ -130,7 +123,7 @@ quint32 end_launch(const QByteArray& id)
     xcb_create_window(c, XCB_COPY_FROM_PARENT, window, screen->root, -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
                       &mask);
-    const quint32 now = server_time(c, window, atom(c, "_NET_STARTUP_INFO"));
+    const quint32 now = server_time(c, window, xcb_atom(c, "_NET_STARTUP_INFO"));
     send_message(c, screen->root, window, remove_message(id));
     xcb_destroy_window(c, window);
     // A round trip, so that the messages are out before the connection goes.

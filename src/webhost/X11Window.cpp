@@ -6,6 +6,8 @@
 #include <cstring>
 #include <xcb/xcb.h>
 
+#include "base/XcbAtom.h"
+
 namespace X11Window {
 namespace {
 
@@ -19,15 +21,6 @@ xcb_window_t root_window(xcb_connection_t* c)
 {
     const xcb_setup_t* setup = xcb_get_setup(c);
     return xcb_setup_roots_iterator(setup).data->root;
-}
-
-xcb_atom_t atom(xcb_connection_t* c, const char* name)
-{
-    xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(
-        c, xcb_intern_atom(c, 0, uint16_t(strlen(name)), name), nullptr);
-    const xcb_atom_t result = reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-    free(reply);
-    return result;
 }
 
 // The first 32-bit value of a window property of the given type, or 0.
@@ -58,9 +51,9 @@ int set_user_time(quint32 window, quint32 user_time)
     xcb_connection_t* c = connection_or_complain("_NET_WM_USER_TIME");
     if (!c)
         return -1;
-    const xcb_atom_t user_time_atom = atom(c, "_NET_WM_USER_TIME");
+    const xcb_atom_t user_time_atom = xcb_atom(c, "_NET_WM_USER_TIME");
     const xcb_window_t time_window =
-        property_value(c, window, atom(c, "_NET_WM_USER_TIME_WINDOW"), XCB_ATOM_WINDOW);
+        property_value(c, window, xcb_atom(c, "_NET_WM_USER_TIME_WINDOW"), XCB_ATOM_WINDOW);
     for (xcb_window_t target : {xcb_window_t(window), time_window}) {
         if (target != XCB_WINDOW_NONE)
             xcb_change_property(c, XCB_PROP_MODE_REPLACE, target, user_time_atom,
@@ -78,16 +71,16 @@ bool manager_handles_activation()
     const xcb_window_t root = root_window(c);
     // A manager that died leaves _NET_SUPPORTED behind; its check window
     // goes with it, so ask that the check window still names itself.
-    const xcb_atom_t check = atom(c, "_NET_SUPPORTING_WM_CHECK");
+    const xcb_atom_t check = xcb_atom(c, "_NET_SUPPORTING_WM_CHECK");
     const xcb_window_t wm = property_value(c, root, check, XCB_ATOM_WINDOW);
     if (wm == XCB_WINDOW_NONE || property_value(c, wm, check, XCB_ATOM_WINDOW) != wm)
         return false;
     xcb_get_property_reply_t* reply = xcb_get_property_reply(
-        c, xcb_get_property(c, 0, root, atom(c, "_NET_SUPPORTED"), XCB_ATOM_ATOM, 0, 4096),
+        c, xcb_get_property(c, 0, root, xcb_atom(c, "_NET_SUPPORTED"), XCB_ATOM_ATOM, 0, 4096),
         nullptr);
     bool found = false;
     if (reply && reply->format == 32) {
-        const xcb_atom_t wanted = atom(c, "_NET_ACTIVE_WINDOW");
+        const xcb_atom_t wanted = xcb_atom(c, "_NET_ACTIVE_WINDOW");
         const auto* atoms = static_cast<const xcb_atom_t*>(xcb_get_property_value(reply));
         const int count = xcb_get_property_value_length(reply) / 4;
         for (int i = 0; i < count && !found; ++i)
@@ -107,7 +100,7 @@ int request_activation(quint32 window, quint32 user_time, int source)
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
     event.window = window;
-    event.type = atom(c, "_NET_ACTIVE_WINDOW");
+    event.type = xcb_atom(c, "_NET_ACTIVE_WINDOW");
     event.data.data32[0] = quint32(source);
     event.data.data32[1] = user_time;
     event.data.data32[2] = XCB_WINDOW_NONE;
