@@ -122,15 +122,13 @@ void MainWindow::bring_to_front()
     if (is_page_open() && !page_in_host)
         close_page();
     if (!is_page_open()) {
-        if (create_ovra_ui()) {
-            open_after_load = true;
-            open_user_time = UserTime::current();
-        }
+        // The open waits for the page, and keeps the input that asked.
+        if (create_ovra_ui())
+            set_open_ovra_after_load_finished(true);
         return;
     }
     if (!ovra_loaded) {
-        open_after_load = true;
-        open_user_time = UserTime::current();
+        set_open_ovra_after_load_finished(true);
         return;
     }
     if (page_warm_timer)

@@ -12,7 +12,6 @@ namespace {
 
 // A peer that does not answer a close in this time is cut off.
 const int CLOSE_GRACE_MS = 3000;
-const int GOING_AWAY_CODE = 1001;
 
 } // namespace
 
@@ -35,7 +34,7 @@ BridgeClient::BridgeClient(std::unique_ptr<BridgeSocket> owned_socket, const QSt
 
     connect(socket, &BridgeSocket::disconnected, this, [this] { emit gone(this); });
     connect(native_object, &QObject::destroyed, this,
-            [this] { close(GOING_AWAY_CODE, QStringLiteral("window closed")); });
+            [this] { close(BridgeSocket::GOING_AWAY, QStringLiteral("window closed")); });
 }
 
 void BridgeClient::close(int code, const QString& reason)

@@ -17,7 +17,6 @@ const char* const BridgeServer::TAKEN_OVER_REASON = "opened elsewhere";
 namespace {
 
 const int REFUSED_CLOSE_GRACE_MS = 3000;
-const int POLICY_VIOLATED_CODE = 1008;
 
 } // namespace
 
@@ -154,7 +153,7 @@ void BridgeServer::accept(std::unique_ptr<BridgeSocket> socket)
         refused->setParent(this);
         connect(refused, &BridgeSocket::disconnected, refused, &QObject::deleteLater);
         QTimer::singleShot(REFUSED_CLOSE_GRACE_MS, refused, &QObject::deleteLater);
-        refused->close(POLICY_VIOLATED_CODE, QStringLiteral("refused"));
+        refused->close(BridgeSocket::POLICY_VIOLATED, QStringLiteral("refused"));
         return;
     }
     if (!socket->is_open())

@@ -10,8 +10,6 @@
 namespace {
 
 enum Opcode { CONTINUATION = 0x0, TEXT = 0x1, BINARY = 0x2, CLOSE = 0x8, PING = 0x9, PONG = 0xA };
-enum CloseCode { NORMAL = 1000, PROTOCOL_ERROR = 1002, UNSUPPORTED_DATA = 1003, NO_STATUS = 1005,
-                 INVALID_TEXT = 1007, TOO_BIG = 1009 };
 
 const char* const ACCEPT_SUFFIX = "258EAFA5-E914-47DA-95CA-C5AB0DC85B11";
 

@@ -18,6 +18,19 @@ class BridgeSocket : public QObject
     Q_OBJECT
 
 public:
+    // The close codes this bridge sends (RFC 6455, 7.4.1).
+    enum CloseCode
+    {
+        NORMAL = 1000,
+        GOING_AWAY = 1001,
+        PROTOCOL_ERROR = 1002,
+        UNSUPPORTED_DATA = 1003,
+        NO_STATUS = 1005,
+        INVALID_TEXT = 1007,
+        POLICY_VIOLATED = 1008,
+        TOO_BIG = 1009,
+    };
+
     // Messages past this size are no page of ours; the socket closes.
     static const qint64 MAX_MESSAGE_BYTES = 16 * 1024 * 1024;
 
