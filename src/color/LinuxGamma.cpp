@@ -362,12 +362,58 @@ int LinuxGamma::write_crtc(unsigned int crtc, unsigned int size, const uint16_t*
     return 0;
 }
 
-int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint)
+// Every second the tick writes again what the screen already shows, to
+// repair it after a suspend or another program. Such a repeat goes out
+// without waiting for the server's answer: waiting would wake the program a
+// second time each second, and the answer matters only when it is a refusal,
+// which comes back as an error that the next write collects. A change of
+// ramps, a restore and the first write after a refusal still wait.
+int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint, bool may_repeat)
 {
+    if (may_repeat && crtc.last_write_confirmed && crtc.last_written == fingerprint)
+        return repeat_crtc(crtc.crtc, crtc.ramp_size, block);
     const int result = write_crtc(crtc.crtc, crtc.ramp_size, block);
+    crtc.last_write_confirmed = result == 0;
     if (result == 0 && crtc.last_written != fingerprint) {
         crtc.last_written = fingerprint;
         last_written_moved = true;
+    }
+    return result;
+}
+
+int LinuxGamma::repeat_crtc(unsigned int crtc, unsigned int size, const uint16_t* block)
+{
+    xcb_randr_set_crtc_gamma(state->conn, crtc, static_cast<uint16_t>(size), block, block + size, block + 2 * size);
+    if (xcb_flush(state->conn) <= 0) {
+        report_error("RANDR Set CRTC Gamma", nullptr);
+        return -1;
+    }
+    log_write();
+    return 0;
+}
+
+int LinuxGamma::collect_late_errors()
+{
+    if (!state->conn || state->crtc_count == 0)
+        return 0;
+    int result = 0;
+    while (xcb_generic_event_t* event = xcb_poll_for_event(state->conn)) {
+        // Nothing is selected on this connection: all that comes are errors.
+        if (event->response_type == 0) {
+            report_error("RANDR Set CRTC Gamma", reinterpret_cast<xcb_generic_error_t*>(event));
+            result = -1;
+        }
+        free(event);
+    }
+    if (xcb_connection_has_error(state->conn)) {
+        report_error("RANDR Set CRTC Gamma", nullptr);
+        result = -1;
+    }
+    if (result != 0) {
+        // Which repeat was refused is not worth tracing: the next write to
+        // every CRTC waits for its answer again.
+        for (unsigned int i = 0; i < state->crtc_count; ++i)
+            state->crtcs[i].last_write_confirmed = false;
     }
     return result;
 }
@@ -386,6 +432,7 @@ void LinuxGamma::keep_last_written()
 
 int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> ignored, int monitor)
 {
+    collect_late_errors();
     const int result = write_temperature(settings, ignored);
     keep_last_written();
     return result;
@@ -449,7 +496,7 @@ int LinuxGamma::set_temperature_for_display(randr_state_t* state, int crtc_index
         crtc.block_key = key;
         crtc.block_fingerprint = RampCrashFile::fingerprint(crtc.block, crtc.ramp_size);
     }
-    return write_block(crtc, crtc.block, crtc.block_fingerprint);
+    return write_block(crtc, crtc.block, crtc.block_fingerprint, true);
 }
 
 int LinuxGamma::restore_monitor_colors(int crtc_index)
@@ -471,7 +518,7 @@ int LinuxGamma::restore()
         if (!crtc.saved_ramps)
             continue;
         const uint64_t fingerprint = RampCrashFile::fingerprint(crtc.saved_ramps, crtc.ramp_size);
-        if (write_block(crtc, crtc.saved_ramps, fingerprint) != 0) {
+        if (write_block(crtc, crtc.saved_ramps, fingerprint, false) != 0) {
             fprintf(stderr, "Unable to restore CRTC %i\n", static_cast<int>(i));
             result = -1;
         }

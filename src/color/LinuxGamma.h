@@ -41,6 +41,8 @@ struct randr_crtc_state_t
     uint64_t block_fingerprint = 0;
     // Fingerprint of what this backend last wrote to the CRTC.
     uint64_t last_written = 0;
+    // The server took that write without an error.
+    bool last_write_confirmed = false;
 };
 
 struct randr_state_t
@@ -90,7 +92,13 @@ private:
     void free_crtcs();
     void disconnect();
     int write_crtc(unsigned int crtc, unsigned int size, const uint16_t* block);
-    int write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint);
+    // `may_repeat`: a write the tick repeats, which need not wait when the
+    // CRTC already shows it.
+    int write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint, bool may_repeat);
+    int repeat_crtc(unsigned int crtc, unsigned int size, const uint16_t* block);
+    // Reports refusals of earlier repeats; -1 when there was one, or the
+    // connection is gone.
+    int collect_late_errors();
     // Brings the file up to date with what was last written, when it moved.
     void keep_last_written();
     void recover_after_crash();

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <csignal>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cmath>
@@ -231,6 +232,43 @@ TEST_F(LinuxGammaTest, ASecondStartIsNoCrashToRecoverFrom)
     ASSERT_TRUE(probe->set_curve(0, identity));
     EXPECT_EQ(gamma.restore(), 0);
     EXPECT_EQ(probe->get(0), tinted);
+}
+
+// The tick writes the same ramps every second without waiting for the server.
+TEST_F(LinuxGammaTest, ARepeatRepairsAForeignResetAndItsRefusalIsToldAtTheNextWrite)
+{
+    LinuxGamma gamma;
+    ASSERT_EQ(gamma.start(), 0);
+    ColorSettings s{3400, {1, 1, 1}, 0.7f};
+    ASSERT_EQ(gamma.set_temperature(&s, {}, 0), 0);
+    const CrtcRamps tinted = probe->get(0);
+    xcb_connection_t* conn = gamma.randr_state()->conn;
+    // Nothing waited for the repeat: a round trip puts it before the probe's read.
+    const auto settle = [conn] { free(xcb_get_input_focus_reply(conn, xcb_get_input_focus(conn), nullptr)); };
+
+    ASSERT_TRUE(probe->set_curve(0, identity));
+    EXPECT_EQ(stderr_of([&] { EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0); }), "");
+    settle();
+    EXPECT_EQ(probe->get(0), tinted);
+
+    // A request the server refuses (a ramp of the wrong size), sent as a
+    // repeat is: its error waits on the connection until the next write.
+    const randr_crtc_state_t& crtc = gamma.randr_state()->crtcs[0];
+    const uint16_t half = static_cast<uint16_t>(crtc.ramp_size / 2);
+    const std::vector<uint16_t> zeros(half, 0);
+    xcb_randr_set_crtc_gamma(conn, crtc.crtc, half, zeros.data(), zeros.data(), zeros.data());
+    settle();
+    ASSERT_TRUE(probe->set_curve(0, identity));
+    EXPECT_EQ(stderr_of([&] { EXPECT_EQ(gamma.set_temperature(&s, {}, 0), 0); }),
+              "`RANDR Set CRTC Gamma' returned error 8\n");
+    // The write after a refusal waited for its answer, so it is on the screen now.
+    EXPECT_EQ(probe->get(0), tinted);
+
+    // A connection that broke under a repeat: the write says so.
+    ::shutdown(xcb_get_file_descriptor(conn), SHUT_RDWR);
+    EXPECT_NE(stderr_of([&] { EXPECT_EQ(gamma.set_temperature(&s, {}, 0), -1); }), "");
+    EXPECT_FALSE(gamma.is_connected());
+    EXPECT_NE(stderr_of([&] { gamma.restore(); }), "");
 }
 
 TEST_F(LinuxGammaTest, AProcessKilledWithItsTintIsRepairedByTheNextStart)
