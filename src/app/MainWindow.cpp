@@ -9,6 +9,7 @@
 #include <iostream>
 
 #include "app/ControllerSpellTarget.h"
+#include "app/DoorThread.h"
 #include "app/ExitGuard.h"
 #include "app/SingleApplication.h"
 #include "app/UnixSignals.h"
@@ -111,7 +112,8 @@ MainWindow::~MainWindow()
     }
     ExitGuard::clear();
     delete network_config_manager;
-    delete unix_signals;
+    DoorThread::close(unix_signals);
+    unix_signals = nullptr;
     delete hidden_features;
     delete spell_target;
     delete features_settings;
@@ -203,6 +205,7 @@ void MainWindow::setup_signal_handlers()
     unix_signals = new UnixSignals();
     if (!unix_signals->install())
         std::cerr << "Ovra: signals cannot be handled; the ramps come back only on quit" << std::endl;
+    DoorThread::take(unix_signals);
     // Every way the program is asked to end leaves through quit(), so that
     // the settings are saved and the destructor gives the displays their
     // ramps back.

@@ -9,6 +9,7 @@
 #include <iostream>
 #include <unistd.h>
 
+#include "app/DoorThread.h"
 #include "hotkeys/SystemKeyboard.h"
 #include "services/LaunchFeedback.h"
 #include "services/Updater.h"
@@ -37,11 +38,11 @@ SingleApplication::SingleApplication(int& argc, char** argv, const QByteArray& s
 SingleApplication::~SingleApplication()
 {
     if (server) {
-        server->close();
-        delete_managers();
-        delete server;
+        DoorThread::close(server);
         server = nullptr;
+        delete_managers();
     }
+    DoorThread::stop();
     delete socket;
 }
 
@@ -107,22 +108,26 @@ void SingleApplication::run_guard(const QString& name, const QByteArray& startup
     server->setSocketOptions(QLocalServer::UserAccessOption);
     QLocalServer::removeServer(name);
     server->listen(name);
-    connect(server, SIGNAL(newConnection()), this, SLOT(slotConnectionEstablished()));
+    server_path = server->fullServerName();
+    // The knocks are taken and read in the door thread; only the words of a
+    // whole knock come over to this one.
+    connect(server, &QLocalServer::newConnection, server, [this] { take_knocks(); });
+    DoorThread::take(server);
 }
 
 void SingleApplication::close_instance_socket()
 {
-    if (server)
-        server->close();
+    // For a process that ends without unwinding: the listening socket dies
+    // with it, its file would not.
+    if (!server_path.isEmpty())
+        QLocalServer::removeServer(server_path);
 }
 
-void SingleApplication::slotConnectionEstablished()
+void SingleApplication::take_knocks()
 {
-    if (!server)
-        return;
     while (QLocalSocket* knock = server->nextPendingConnection()) {
-        connect(knock, &QLocalSocket::readyRead, this, [this, knock] { read_knock(knock); });
-        connect(knock, &QLocalSocket::disconnected, this, [this, knock] { read_knock(knock); });
+        connect(knock, &QLocalSocket::readyRead, knock, [this, knock] { read_knock(knock); });
+        connect(knock, &QLocalSocket::disconnected, knock, [this, knock] { read_knock(knock); });
         // The launch may have written and gone before we got here.
         read_knock(knock);
     }
@@ -139,10 +144,10 @@ void SingleApplication::read_knock(QLocalSocket* knock)
         if (knock->bytesAvailable() <= LaunchFeedback::MAX_ID_LENGTH)
             return;
     }
-    const QByteArray line = knock->readLine(LaunchFeedback::MAX_ID_LENGTH + 2).trimmed();
-    knock->disconnect(this);
+    const QByteArray startup_id = LaunchFeedback::checked(knock->readLine(LaunchFeedback::MAX_ID_LENGTH + 2).trimmed());
+    knock->disconnect();
     knock->deleteLater();
-    emit process_arguments(LaunchFeedback::checked(line));
+    QMetaObject::invokeMethod(this, [this, startup_id] { emit process_arguments(startup_id); }, Qt::QueuedConnection);
 }
 
 void SingleApplication::create_managers()

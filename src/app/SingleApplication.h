@@ -30,7 +30,7 @@ public:
     void setMainWindow(MainWindow* window) { main_window = window; }
     MainWindow* getMainWindow() { return main_window; }
 
-    // Closes the instance's socket, so that its file goes too.
+    // Removes the instance's socket file, for a way out without destructors.
     void close_instance_socket();
 
     void create_managers();
@@ -49,10 +49,9 @@ signals:
     // brought them, empty when it had none.
     void process_arguments(const QByteArray& startup_id);
 
-public slots:
-    void slotConnectionEstablished();
-
 private:
+    // Both in the door thread, where the server lives.
+    void take_knocks();
     void run_guard(const QString& name, const QByteArray& startup_id);
     void read_knock(QLocalSocket* knock);
 
@@ -65,6 +64,7 @@ private:
     MainWindow* main_window = nullptr;
     QLocalSocket* socket = nullptr;
     QLocalServer* server = nullptr;
+    QString server_path;
 };
 
 void show_already_running_warning();

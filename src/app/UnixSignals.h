@@ -6,7 +6,8 @@ class QSocketNotifier;
 
 // Turns the Unix signals that end or steer the program into Qt signals on the
 // event loop. The handler only writes the signal number into a socket pair;
-// everything else happens on the main thread, where it is safe.
+// everything else happens on the event loop of the thread this object lives
+// in, where it is safe.
 class UnixSignals : public QObject
 {
     Q_OBJECT
