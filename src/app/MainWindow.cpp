@@ -1,4 +1,6 @@
 #include "app/MainWindow.h"
+
+#include "base/TickPath.h"
 #include "breaks/IRestTimer.h"
 
 #include <QCloseEvent>
@@ -186,7 +188,7 @@ void MainWindow::setup_timers()
 }
 
 // Everything that happens once a second, in the order the parts rely on.
-void MainWindow::second_tick()
+OVRA_TICK void MainWindow::second_tick()
 {
     update_ui();
     update_gamma();

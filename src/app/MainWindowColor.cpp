@@ -3,6 +3,8 @@
 // (ColorCurve, ColorTick, ColorFades) or the backend; the arithmetic lives
 // there.
 #include <QGuiApplication>
+
+#include "base/TickPath.h"
 #include <QScreen>
 
 #include "app/MainWindow.h"
@@ -63,7 +65,7 @@ const FadeRecord& MainWindow::fade_state(int which) const
 
 // ---------------------------------------------------------------- the tick
 
-int MainWindow::update_gamma()
+OVRA_TICK int MainWindow::update_gamma()
 {
     return tick->update();
 }
@@ -103,12 +105,12 @@ int MainWindow::get_transition_type()
     return curve->transition_type();
 }
 
-void MainWindow::fix_gamma()
+OVRA_TICK void MainWindow::fix_gamma()
 {
     fix_gamma_requested = true;
 }
 
-void MainWindow::refresh_color_fixer()
+OVRA_TICK void MainWindow::refresh_color_fixer()
 {
     // The fixer keeps its place in the road but has no effect of its own:
     // the write of every second already repairs a ramp that something changed.
@@ -117,7 +119,7 @@ void MainWindow::refresh_color_fixer()
         gamma->set_gamma_fixer(0);
 }
 
-void MainWindow::refresh_color_effects() {}
+OVRA_TICK void MainWindow::refresh_color_effects() {}
 
 void MainWindow::refresh_high_level_colors()
 {
@@ -131,7 +133,7 @@ bool MainWindow::is_day()
     return hour >= 6 && hour < 18;
 }
 
-int MainWindow::get_screen_count()
+OVRA_TICK int MainWindow::get_screen_count()
 {
     if (screen_count_override >= 0)
         return screen_count_override;
@@ -170,13 +172,13 @@ int MainWindow::get_sleep_brightness(int monitor)
 
 // ---------------------------------------------------------------- pause
 
-bool MainWindow::is_gamma_paused()
+OVRA_TICK bool MainWindow::is_gamma_paused()
 {
     return color_changes_paused_setting.to_bool() || color_changes_auto_paused
            || ovra_paused_setting.to_bool();
 }
 
-bool MainWindow::is_ovra_paused()
+OVRA_TICK bool MainWindow::is_ovra_paused()
 {
     return ovra_paused_setting.to_bool();
 }

@@ -1,5 +1,7 @@
 #include "app/MainWindow.h"
 
+#include "base/TickPath.h"
+
 #include <QDebug>
 #include <QNetworkReply>
 
@@ -136,7 +138,7 @@ void MainWindow::use_manual_location_changed(bool value)
         update_times_info();
 }
 
-void MainWindow::process_curve_files()
+OVRA_TICK void MainWindow::process_curve_files()
 {
     if (brightness_config.is_config_used())
         brightness_config.process_brightness_config(settings, [this] { update_gamma(); });

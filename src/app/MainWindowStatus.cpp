@@ -3,6 +3,8 @@
 // whether the program is paused.
 #include <QString>
 
+#include "base/TickPath.h"
+
 #include "app/MainWindow.h"
 #include "breaks/IRestTimer.h"
 #include "settings/SaveKeys.h"
@@ -15,7 +17,7 @@ const int BIP_MILLISECONDS = 2999;
 
 // "3400K / 80%": per monitor, from the curve, when each has its own values;
 // otherwise the values last written.
-QString MainWindow::status_values()
+OVRA_TICK QString MainWindow::status_values()
 {
     if (!use_per_monitor_setting.to_bool()) {
         if (shared_status.temperature != current_temperature ||
@@ -42,7 +44,7 @@ void MainWindow::translate_status_words()
     status_words = {tr("until"), tr("work"), tr("rest"), tr("Paused")};
 }
 
-void MainWindow::update_ui()
+OVRA_TICK void MainWindow::update_ui()
 {
     // A monitor came or went: the page's list and the overlays follow.
     if (get_screen_count() != screen_count) {
@@ -100,7 +102,7 @@ void MainWindow::update_ovra_status()
 }
 
 // Before the page has loaded only the icon follows.
-void MainWindow::publish_status(const QString* known_values)
+OVRA_TICK void MainWindow::publish_status(const QString* known_values)
 {
     if (ovra_loaded)
         emit set_ovra_status(ovra_paused_setting.to_bool() ? status_words.paused

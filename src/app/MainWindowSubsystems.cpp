@@ -2,6 +2,8 @@
 // overlays and the watched applications. Each is null until it exists, and
 // the controller then behaves as the program does without it.
 #include "app/MainWindow.h"
+
+#include "base/TickPath.h"
 #include "breaks/IRestTimer.h"
 #include "breaks/IdleTime.h"
 #include "overlays/IScreenOverlays.h"
@@ -38,7 +40,7 @@ void MainWindow::stop_rest_timer()
         rest_timer->stop_rest_timer();
 }
 
-void MainWindow::update_idle_time()
+OVRA_TICK void MainWindow::update_idle_time()
 {
     if (timer_paused_setting.to_bool())
         return;
@@ -68,7 +70,7 @@ void MainWindow::update_idle_time()
 
 // ---------------------------------------------------------------- overlays
 
-void MainWindow::update_overlay_screen()
+OVRA_TICK void MainWindow::update_overlay_screen()
 {
     if (overlays)
         overlays->update();

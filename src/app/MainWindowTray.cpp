@@ -3,6 +3,8 @@
 // page takes (the _force slots of the type and the mode, bring_to_front,
 // quit), so that a change from the tray is a change like any other.
 #include <QCoreApplication>
+
+#include "base/TickPath.h"
 #include <QStringList>
 
 #include "app/MainWindow.h"
@@ -73,7 +75,7 @@ TrayHost MainWindow::tray_host()
 
 // Asked once a second: the tick wrote other values than a second ago, or a
 // fade is on its way.
-bool MainWindow::tray_colors_changing()
+OVRA_TICK bool MainWindow::tray_colors_changing()
 {
     const bool moved = current_temperature != tray_seen_temperature
                        || current_brightness != tray_seen_brightness;
@@ -82,7 +84,7 @@ bool MainWindow::tray_colors_changing()
     return moved || (fades && fades->active());
 }
 
-bool MainWindow::is_ovra_loaded()
+OVRA_TICK bool MainWindow::is_ovra_loaded()
 {
     return ovra_loaded;
 }

@@ -1,5 +1,7 @@
 #include "breaks/BreakWindows.h"
 
+#include "base/TickPath.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -123,7 +125,7 @@ void BreakWindows::set_productive_resting(bool resting)
         productive_screen->set_resting(resting);
 }
 
-void BreakWindows::update()
+OVRA_TICK void BreakWindows::update()
 {
     for (IRestScreen* screen : std::as_const(rest_screens))
         screen->update_ui();

@@ -1,5 +1,7 @@
 #include "breaks/Countdown.h"
 
+#include "base/TickPath.h"
+
 #include <QTimer>
 
 TimerCountdown::TimerCountdown(QObject* parent) : Countdown(parent), timer(new QTimer(this))
@@ -19,7 +21,7 @@ void TimerCountdown::stop()
     timer->stop();
 }
 
-bool TimerCountdown::is_active() const
+OVRA_TICK bool TimerCountdown::is_active() const
 {
     return timer->isActive();
 }

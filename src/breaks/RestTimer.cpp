@@ -1,5 +1,7 @@
 #include "breaks/RestTimer.h"
 
+#include "base/TickPath.h"
+
 #include <QCoreApplication>
 #include <climits>
 
@@ -290,7 +292,7 @@ void RestTimer::timer_backward(int minutes)
 
 // ---------------------------------------------------------------- prompts
 
-void RestTimer::update()
+OVRA_TICK void RestTimer::update()
 {
     const int left = work_timer->is_active() ? work_timer->remaining() : -1;
     if (!prompted && timer_type < TYPE_PRODUCTIVE && left >= PROMPT_EARLIEST_MSECS

@@ -1,5 +1,7 @@
 #include "color/ColorCurve.h"
 
+#include "base/TickPath.h"
+
 #include "settings/SaveKeys.h"
 #include "settings/SettingsTable.h"
 #include "time/ClockInterpolationValues.h"
@@ -66,7 +68,7 @@ ColorCurve::ColorCurve(const SettingsMap& settings, const double& latitude, cons
 
 ColorCurve::~ColorCurve() = default;
 
-const SettingRef& ColorCurve::ref(const char* key, int monitor) const
+OVRA_TICK const SettingRef& ColorCurve::ref(const char* key, int monitor) const
 {
     const auto place = std::make_pair(key, monitor);
     auto found = monitor_refs.find(place);
@@ -76,7 +78,7 @@ const SettingRef& ColorCurve::ref(const char* key, int monitor) const
     return found->second;
 }
 
-int ColorCurve::monitor_value(const char* key, int monitor) const
+OVRA_TICK int ColorCurve::monitor_value(const char* key, int monitor) const
 {
     if (monitor != 0) {
         const QVariant& own = ref(key, monitor).value();
@@ -86,12 +88,12 @@ int ColorCurve::monitor_value(const char* key, int monitor) const
     return ref(key, 0).to_int();
 }
 
-bool ColorCurve::uses_solar_curve() const
+OVRA_TICK bool ColorCurve::uses_solar_curve() const
 {
     return !inputs->manual_night_duration.to_bool() && latitude != -1.0 && longitude != -1.0;
 }
 
-float ColorCurve::evaluate(const Quantity& q, int monitor) const
+OVRA_TICK float ColorCurve::evaluate(const Quantity& q, int monitor) const
 {
     const bool manual = q.manual.to_bool();
     const float day = monitor_value(q.day, monitor);
@@ -119,12 +121,12 @@ float ColorCurve::evaluate(const Quantity& q, int monitor) const
                         : clock->get_interpolated_color_temperature(values);
 }
 
-float ColorCurve::temperature(int monitor) const
+OVRA_TICK float ColorCurve::temperature(int monitor) const
 {
     return evaluate(*temperature_keys, monitor);
 }
 
-float ColorCurve::brightness(int monitor) const
+OVRA_TICK float ColorCurve::brightness(int monitor) const
 {
     return evaluate(*brightness_keys, monitor);
 }
@@ -136,7 +138,7 @@ TransitionType ColorCurve::transition_type() const
     return ClockPosition::s_instance->get_transition_type();
 }
 
-void ColorCurve::fill(SolarInterpolationValues* values) const
+OVRA_TICK void ColorCurve::fill(SolarInterpolationValues* values) const
 {
     const Inputs& in = *inputs;
     values->latitude = static_cast<float>(latitude);
@@ -154,7 +156,7 @@ void ColorCurve::fill(SolarInterpolationValues* values) const
     values->full_moon_offset = in.full_moon_offset.to_int();
 }
 
-void ColorCurve::fill(ClockInterpolationValues* values) const
+OVRA_TICK void ColorCurve::fill(ClockInterpolationValues* values) const
 {
     const Inputs& in = *inputs;
     values->use_sleep_light = in.use_sleep_light.to_bool();

@@ -1,5 +1,7 @@
 #include "color/ColorFades.h"
 
+#include "base/TickPath.h"
+
 #include "settings/SaveKeys.h"
 
 namespace {
@@ -88,7 +90,7 @@ ColorFades::ColorFades(SettingsMap& settings, int& current_temperature, int& cur
             &ColorFades::switch_state_return_timeout);
 }
 
-bool ColorFades::active() const
+OVRA_TICK bool ColorFades::active() const
 {
     return fades[RESTORE].active || fades[RETURN].active || fades[SWITCH].active
            || fades[SWITCH_RETURN].active;

@@ -1,5 +1,7 @@
 #include "color/ColorTick.h"
 
+#include "base/TickPath.h"
+
 #include "color/ColorCurve.h"
 #include "color/ColorSettings.h"
 #include "color/IGamma.h"
@@ -22,14 +24,14 @@ ColorTick::ColorTick(const SettingsMap& settings, const ColorCurve& curve, IGamm
 {
 }
 
-float ColorTick::brightness(int monitor) const
+OVRA_TICK float ColorTick::brightness(int monitor) const
 {
     // The modifier counts in every call, so fades that read the target take
     // it in too.
     return curve.brightness(monitor) + hooks.brightness_modifier();
 }
 
-int ColorTick::update()
+OVRA_TICK int ColorTick::update()
 {
     if (!gamma || hooks.stands_aside())
         return 0;
@@ -62,7 +64,7 @@ int ColorTick::update()
     return result;
 }
 
-int ColorTick::update_monitor(int monitor)
+OVRA_TICK int ColorTick::update_monitor(int monitor)
 {
     ColorSettings color_settings;
     color_settings.temperature = static_cast<int>(curve.temperature(monitor));
@@ -72,7 +74,7 @@ int ColorTick::update_monitor(int monitor)
     return write(&color_settings, monitor);
 }
 
-int ColorTick::write(ColorSettings* color_settings, int monitor)
+OVRA_TICK int ColorTick::write(ColorSettings* color_settings, int monitor)
 {
     color_settings->gamma[0] = color_settings->gamma[1] = color_settings->gamma[2] = 1.0f;
     int result = 0;

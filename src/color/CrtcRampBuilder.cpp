@@ -1,10 +1,12 @@
 #include "color/CrtcRampBuilder.h"
 
+#include "base/TickPath.h"
+
 #include <cstring>
 
 #include "color/ColorRamp.h"
 
-bool CrtcRampBuilder::reaches_display(const ColorSettings* settings)
+OVRA_TICK bool CrtcRampBuilder::reaches_display(const ColorSettings* settings)
 {
     return settings->temperature >= 0 && !(settings->brightness < MIN_BRIGHTNESS);
 }

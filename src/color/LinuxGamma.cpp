@@ -1,5 +1,7 @@
 #include "color/LinuxGamma.h"
 
+#include "base/TickPath.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -31,7 +33,7 @@ FILE* write_log()
     return log;
 }
 
-void log_write()
+OVRA_TICK void log_write()
 {
     FILE* log = write_log();
     if (!log)
@@ -368,7 +370,7 @@ int LinuxGamma::write_crtc(unsigned int crtc, unsigned int size, const uint16_t*
 // second time each second, and the answer matters only when it is a refusal,
 // which comes back as an error that the next write collects. A change of
 // ramps, a restore and the first write after a refusal still wait.
-int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint, bool may_repeat)
+OVRA_TICK int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uint64_t fingerprint, bool may_repeat)
 {
     if (may_repeat && crtc.last_write_confirmed && crtc.last_written == fingerprint)
         return repeat_crtc(crtc.crtc, crtc.ramp_size, block);
@@ -381,7 +383,7 @@ int LinuxGamma::write_block(randr_crtc_state_t& crtc, const uint16_t* block, uin
     return result;
 }
 
-int LinuxGamma::repeat_crtc(unsigned int crtc, unsigned int size, const uint16_t* block)
+OVRA_TICK int LinuxGamma::repeat_crtc(unsigned int crtc, unsigned int size, const uint16_t* block)
 {
     xcb_randr_set_crtc_gamma(state->conn, crtc, static_cast<uint16_t>(size), block, block + size, block + 2 * size);
     if (xcb_flush(state->conn) <= 0) {
@@ -392,7 +394,7 @@ int LinuxGamma::repeat_crtc(unsigned int crtc, unsigned int size, const uint16_t
     return 0;
 }
 
-int LinuxGamma::collect_late_errors()
+OVRA_TICK int LinuxGamma::collect_late_errors()
 {
     if (!state->conn || state->crtc_count == 0)
         return 0;
@@ -420,7 +422,7 @@ int LinuxGamma::collect_late_errors()
 
 // The file follows the screen only when what was written changed: once a
 // second the same ramps are written again, and that needs no file.
-void LinuxGamma::keep_last_written()
+OVRA_TICK void LinuxGamma::keep_last_written()
 {
     if (!last_written_moved || !owns_crash_file)
         return;
@@ -430,7 +432,7 @@ void LinuxGamma::keep_last_written()
         keep_ramps_for_recovery();
 }
 
-int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> ignored, int monitor)
+OVRA_TICK int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> ignored, int monitor)
 {
     collect_late_errors();
     const int result = write_temperature(settings, ignored);
@@ -438,7 +440,7 @@ int LinuxGamma::set_temperature(const ColorSettings* settings, std::vector<int> 
     return result;
 }
 
-int LinuxGamma::write_temperature(const ColorSettings* settings, const std::vector<int>& ignored)
+OVRA_TICK int LinuxGamma::write_temperature(const ColorSettings* settings, const std::vector<int>& ignored)
 {
     if (state->crtc_num >= 0)
         return set_temperature_for_display(state, state->crtc_num, settings);
@@ -461,7 +463,7 @@ int LinuxGamma::write_temperature(const ColorSettings* settings, const std::vect
     return result;
 }
 
-int LinuxGamma::set_temperature_for_display(randr_state_t* state, int crtc_index, const ColorSettings* settings)
+OVRA_TICK int LinuxGamma::set_temperature_for_display(randr_state_t* state, int crtc_index, const ColorSettings* settings)
 {
     if (!CrtcRampBuilder::reaches_display(settings))
         return -1;

@@ -1,5 +1,7 @@
 #include "time/Clock.h"
 
+#include "base/TickPath.h"
+
 #include <ctime>
 
 namespace {
@@ -22,7 +24,7 @@ struct LocalMinute
     time_t midnight = 0;
 };
 
-const LocalMinute& local_minute(time_t seconds)
+OVRA_TICK const LocalMinute& local_minute(time_t seconds)
 {
     static LocalMinute cached;
     const time_t minute = seconds - ((seconds % 60) + 60) % 60;
@@ -47,12 +49,12 @@ QDateTime Clock::now() const
     return QDateTime::fromMSecsSinceEpoch(msecs, Qt::OffsetFromUTC, static_cast<int>(local.offset));
 }
 
-qint64 Clock::now_msecs_since_epoch() const
+OVRA_TICK qint64 Clock::now_msecs_since_epoch() const
 {
     return QDateTime::currentMSecsSinceEpoch();
 }
 
-qint64 Clock::today_midnight_msecs() const
+OVRA_TICK qint64 Clock::today_midnight_msecs() const
 {
     return static_cast<qint64>(local_minute(whole_seconds(now_msecs_since_epoch())).midnight) * 1000;
 }
@@ -73,7 +75,7 @@ qint64 FixedClock::today_midnight_msecs() const
     return QDateTime(at.date(), QTime(0, 0), Qt::LocalTime).toMSecsSinceEpoch();
 }
 
-Clock* Clock::instance()
+OVRA_TICK Clock* Clock::instance()
 {
     return installed_clock ? installed_clock : &system_clock;
 }

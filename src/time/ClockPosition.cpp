@@ -1,5 +1,7 @@
 #include "time/ClockPosition.h"
 
+#include "base/TickPath.h"
+
 #include "time/Clock.h"
 #include "time/DayCurve.h"
 #include "time/TimeStrings.h"
@@ -18,7 +20,7 @@ ClockPosition::ClockPosition() = default;
 
 ClockPosition::~ClockPosition() = default;
 
-float ClockPosition::get_interpolated_value(ClockInterpolationValues values)
+OVRA_TICK float ClockPosition::get_interpolated_value(ClockInterpolationValues values)
 {
     if (values.use_manual_value) {
         // The manual value of the whole system is the night value; this path
@@ -29,17 +31,17 @@ float ClockPosition::get_interpolated_value(ClockInterpolationValues values)
     return static_cast<float>(calculate_interpolation_value_from_time(values));
 }
 
-float ClockPosition::get_interpolated_brightness(ClockInterpolationValues values)
+OVRA_TICK float ClockPosition::get_interpolated_brightness(ClockInterpolationValues values)
 {
     return get_interpolated_value(values);
 }
 
-float ClockPosition::get_interpolated_color_temperature(ClockInterpolationValues values)
+OVRA_TICK float ClockPosition::get_interpolated_color_temperature(ClockInterpolationValues values)
 {
     return get_interpolated_value(values);
 }
 
-double ClockPosition::calculate_interpolation_value_from_time(ClockInterpolationValues v)
+OVRA_TICK double ClockPosition::calculate_interpolation_value_from_time(ClockInterpolationValues v)
 {
     const double now = Clock::instance()->now_msecs_since_epoch() / 1000.0;
     const double m = Clock::instance()->today_midnight_msecs() / 1000.0;
@@ -92,7 +94,7 @@ TransitionType ClockPosition::get_transition_type()
     return transition_type;
 }
 
-void ClockPosition::set_transition_type(TransitionType type)
+OVRA_TICK void ClockPosition::set_transition_type(TransitionType type)
 {
     if (transition_type == TRANSITION_SLEEP)
         return;

@@ -1,10 +1,12 @@
 #include "time/DayCurve.h"
 
+#include "base/TickPath.h"
+
 #include <algorithm>
 
 namespace day_curve {
 
-double time_of_day_seconds(int hours, int minutes)
+OVRA_TICK double time_of_day_seconds(int hours, int minutes)
 {
     return hours * 3600.0 + minutes * 60.0;
 }
@@ -70,7 +72,7 @@ Step undecided_night()
 }
 } // namespace
 
-SleepWindow sleep_window(int bedtime_hours, int bedtime_minutes, int wake_time_hours,
+OVRA_TICK SleepWindow sleep_window(int bedtime_hours, int bedtime_minutes, int wake_time_hours,
                          int wake_time_minutes, int sleep_transition_duration)
 {
     SleepWindow w;
@@ -89,7 +91,7 @@ SleepWindow sleep_window(int bedtime_hours, int bedtime_minutes, int wake_time_h
     return w;
 }
 
-Step sleep_factor(double n, double m, const SleepWindow& w, bool day_after_wake)
+OVRA_TICK Step sleep_factor(double n, double m, const SleepWindow& w, bool day_after_wake)
 {
     const bool evening_bedtime = w.bed_end > w.wake_end;
     const double bed_start = w.bed_start + m;
@@ -125,7 +127,7 @@ Step sleep_factor(double n, double m, const SleepWindow& w, bool day_after_wake)
     return awake(false);
 }
 
-Step night_factor(double n, double a, double b, double c, double d, bool usual_order)
+OVRA_TICK Step night_factor(double n, double a, double b, double c, double d, bool usual_order)
 {
     if (usual_order) {
         if (n > d)
@@ -156,7 +158,7 @@ Step night_factor(double n, double a, double b, double c, double d, bool usual_o
     return undecided_night();
 }
 
-float mix(float day_value, float night_value, float sleep_value, double nf, double sf)
+OVRA_TICK float mix(float day_value, float night_value, float sleep_value, double nf, double sf)
 {
     float value = static_cast<float>(day_value * (1.0 - nf) + night_value * nf);
     if (sf != 0.0)

@@ -1,5 +1,7 @@
 #include "time/SolarPosition.h"
 
+#include "base/TickPath.h"
+
 #include "time/Clock.h"
 #include "time/DayCurve.h"
 #include "time/Moon.h"
@@ -31,7 +33,7 @@ SolarPosition::~SolarPosition()
     delete moon;
 }
 
-float SolarPosition::get_interpolated_value(SolarInterpolationValues v)
+OVRA_TICK float SolarPosition::get_interpolated_value(SolarInterpolationValues v)
 {
     if (v.use_manual_value) {
         // The manual value of the whole system is the night value; this path
@@ -80,12 +82,12 @@ float SolarPosition::get_interpolated_value(SolarInterpolationValues v)
     return day_curve::mix(v.day_value, v.night_value, v.sleep_value, night.factor, sf);
 }
 
-float SolarPosition::get_interpolated_brightness(SolarInterpolationValues values)
+OVRA_TICK float SolarPosition::get_interpolated_brightness(SolarInterpolationValues values)
 {
     return get_interpolated_value(values);
 }
 
-float SolarPosition::get_interpolated_color_temperature(SolarInterpolationValues values)
+OVRA_TICK float SolarPosition::get_interpolated_color_temperature(SolarInterpolationValues values)
 {
     return get_interpolated_value(values);
 }
@@ -95,7 +97,7 @@ TransitionType SolarPosition::get_transition_type()
     return transition_type;
 }
 
-void SolarPosition::set_transition_type(TransitionType type)
+OVRA_TICK void SolarPosition::set_transition_type(TransitionType type)
 {
     if (transition_type == TRANSITION_SLEEP)
         return;
@@ -115,13 +117,13 @@ bool SolarPosition::is_night_mode(SolarInterpolationValues values)
     return is_day_mode(values);
 }
 
-void SolarPosition::prepare_sun(const SolarInterpolationValues& v)
+OVRA_TICK void SolarPosition::prepare_sun(const SolarInterpolationValues& v)
 {
     sun->setPosition(v.latitude, v.longitude, v.time_zone_offset);
     sun->setCurrentTime(now_seconds());
 }
 
-float SolarPosition::moon_offset(double now, int new_moon_offset, int full_moon_offset)
+OVRA_TICK float SolarPosition::moon_offset(double now, int new_moon_offset, int full_moon_offset)
 {
     // The phase takes a month to go round: worked out once a minute, it
     // moves an offset of hours by a fraction of a second.

@@ -1,5 +1,7 @@
 #include "tray/TrayIcon.h"
 
+#include "base/TickPath.h"
+
 #include <QAction>
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -203,7 +205,7 @@ void TrayIcon::refresh_selected_mode()
 
 // ---------------------------------------------------------------- the icon
 
-void TrayIcon::update_tray_icon(bool changing)
+OVRA_TICK void TrayIcon::update_tray_icon(bool changing)
 {
     // The ghost hides every state, and so every change of state.
     if (ghost_setting.to_bool()) {
@@ -223,7 +225,7 @@ void TrayIcon::update_tray_icon(bool changing)
     }
 }
 
-void TrayIcon::set_green_tray_icon(bool changing)
+OVRA_TICK void TrayIcon::set_green_tray_icon(bool changing)
 {
     const bool spinning = may_spin && spinning_setting.to_bool();
     if (spinning)
@@ -234,7 +236,7 @@ void TrayIcon::set_green_tray_icon(bool changing)
 }
 
 // The tray is told only of a new picture: an icon at rest is not redrawn.
-void TrayIcon::show_art(TrayArt art, int angle)
+OVRA_TICK void TrayIcon::show_art(TrayArt art, int angle)
 {
     if (art == shown && angle % 360 == angle_shown)
         return;
@@ -258,7 +260,7 @@ bool TrayIcon::is_visible() const
 }
 
 // Asked every second; the tray hears of it only when the words change.
-void TrayIcon::set_tooltip(const QString& text)
+OVRA_TICK void TrayIcon::set_tooltip(const QString& text)
 {
     // Compared with what was last set, not with toolTip(), which asks the
     // platform's icon each second.

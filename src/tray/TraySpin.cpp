@@ -1,12 +1,14 @@
 #include "tray/TraySpin.h"
 
+#include "base/TickPath.h"
+
 TraySpin::TraySpin(QObject* parent) : QObject(parent)
 {
     timer.setInterval(STEP_MSECS);
     connect(&timer, &QTimer::timeout, this, &TraySpin::step);
 }
 
-void TraySpin::colors_changing(bool changing)
+OVRA_TICK void TraySpin::colors_changing(bool changing)
 {
     if (!changing)
         return;
