@@ -76,12 +76,16 @@ int CrtcRamps::read()
     return 0;
 }
 
-int CrtcRamps::write() const
+int CrtcRamps::write(bool wait_for_answer) const
 {
     for (const Crtc& crtc : crtcs) {
         if (crtc.size == 0)
             continue;
         const uint16_t* block = crtc.ramps.data();
+        if (!wait_for_answer) {
+            xcb_randr_set_crtc_gamma(conn, crtc.id, crtc.size, block, block + crtc.size, block + 2 * crtc.size);
+            continue;
+        }
         xcb_generic_error_t* error = xcb_request_check(
             conn, xcb_randr_set_crtc_gamma_checked(conn, crtc.id, crtc.size, block, block + crtc.size,
                                                    block + 2 * crtc.size));
@@ -90,6 +94,10 @@ int CrtcRamps::write() const
             free(error);
             return -1;
         }
+    }
+    if (!wait_for_answer && (xcb_flush(conn) <= 0 || xcb_connection_has_error(conn))) {
+        report_error("RANDR Set CRTC Gamma", nullptr);
+        return -1;
     }
     return 0;
 }

@@ -7,8 +7,8 @@
 
 // The ramps of every CRTC of one X screen, taken from the server once and
 // written back unchanged: the least any program that keeps a tint on the
-// screen has to do. Each write waits for the server's answer, as the
-// product's backend does, so that the two cost the same round trips.
+// screen has to do. A write waits for the server's answer unless told not
+// to; the product's once-a-second repeat does not wait.
 class CrtcRamps
 {
 public:
@@ -22,8 +22,9 @@ public:
     int open(const char* display = nullptr);
     // Takes the ramps the server holds now, replacing those read before.
     int read();
-    // One checked SetCrtcGamma a CRTC with the ramps last read. 0 or -1.
-    int write() const;
+    // One SetCrtcGamma a CRTC with the ramps last read, each checked, or
+    // all sent at once without waiting. 0 or -1.
+    int write(bool wait_for_answer = true) const;
 
     int crtc_count() const { return static_cast<int>(crtcs.size()); }
 

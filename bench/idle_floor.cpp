@@ -2,6 +2,8 @@
 // only work is one timer a second writing one set of ramps to every CRTC.
 // The ramps are those the server holds when it starts (started beside a
 // settled ovra, the very ones ovra writes), taken once and never recomputed.
+// With --no-wait it sends them without waiting for the server's answer, as
+// ovra's once-a-second repeat does: one wake-up a second instead of two.
 #include <QGuiApplication>
 #include <QTimer>
 
@@ -15,7 +17,8 @@ int main(int argc, char** argv)
         return 1;
     QTimer tick;
     tick.setInterval(1000);
-    QObject::connect(&tick, &QTimer::timeout, &tick, [&ramps] { ramps.write(); });
+    const bool wait_for_answer = !app.arguments().contains(QStringLiteral("--no-wait"));
+    QObject::connect(&tick, &QTimer::timeout, &tick, [&ramps, wait_for_answer] { ramps.write(wait_for_answer); });
     tick.start();
     return app.exec();
 }
