@@ -40,6 +40,8 @@ class Breaks(BreakTestCase):
         self.start_breaks(RestTime=300)
         self.start_rest_now()
         screen = self.rest_screens(1)[0]
+        # A click before the page has shown the button falls on nothing.
+        self.in_pages("rest_screen", SKIP_SHOWN, until=SKIP_SHOWN + " === 'visible'")
         self.click_skip(screen)
         self.assertTrue(wait_for(lambda: not visible_windows(REST), 10), "skip did not end it")
 
